@@ -1,0 +1,45 @@
+// Equality of two texts: the runtime's own comparisons, which are as wide as the processor allows
+// and carry the locale's fold. A negative count turns into the largest one.
+#include <cstring>
+
+#include "zeph.h"
+
+#if __has_include(<strings.h>)
+#include <strings.h>
+#endif
+
+namespace Orbane {
+
+bool Zeph_Compare(const char* a, const char* b) {
+  return std::strcmp(a, b) == 0;
+}
+
+bool Zeph_Compare(std::string& a, std::string& b) {
+  return Zeph_Compare(a.c_str(), b.c_str());
+}
+
+bool Zeph_Compare(const char* a, const char* b, int n) {
+  return std::strncmp(a, b, static_cast<std::size_t>(n)) == 0;
+}
+
+bool Zeph_Compare(std::string& a, std::string& b, int n) {
+  return Zeph_Compare(a.c_str(), b.c_str(), n);
+}
+
+bool Zeph_Compare_L(const char* a, const char* b) {
+  return strcasecmp(a, b) == 0;
+}
+
+bool Zeph_Compare_L(std::string& a, std::string& b) {
+  return Zeph_Compare_L(a.c_str(), b.c_str());
+}
+
+bool Zeph_Compare_L(const char* a, const char* b, int n) {
+  return strncasecmp(a, b, static_cast<std::size_t>(n)) == 0;
+}
+
+bool Zeph_Compare_L(std::string& a, std::string& b, int n) {
+  return Zeph_Compare_L(a.c_str(), b.c_str(), n);
+}
+
+}  // namespace Orbane

@@ -1,0 +1,55 @@
+// Heap buffers: the core behind the owned buffers of callers and the work buffers of the library.
+#ifndef ZEPH_FRAME_OWNED_BUFFERS_H
+#define ZEPH_FRAME_OWNED_BUFFERS_H
+
+#include <array>
+#include <cstddef>
+
+namespace zeph {
+
+// Asks the heap for `size` zero bytes, with errno left alone. Returns NULL if it refuses.
+char* request_block(std::size_t size);
+
+// Frees the block and sets the pointer to NULL.
+void release_block(char*& block);
+
+// The report of a refused work buffer.
+void report_refused_work_buffer();
+
+// One request for a work buffer. A refusal is reported, and NULL returned.
+char* request_work_buffer(std::size_t size);
+
+// `count` work buffers of one size that live inside one call. They are requested and freed in
+// order; each refused request is reported and the others are made all the same.
+template <std::size_t count>
+class WorkBuffers {
+ public:
+  explicit WorkBuffers(std::size_t size) {
+    for (char*& block : blocks_) block = request_work_buffer(size);
+  }
+  ~WorkBuffers() {
+    for (char*& block : blocks_) release_block(block);
+  }
+  WorkBuffers(const WorkBuffers&) = delete;
+  WorkBuffers& operator=(const WorkBuffers&) = delete;
+
+  bool complete() const {
+    for (const char* block : blocks_) {
+      if (!block) return false;
+    }
+    return true;
+  }
+  char* operator[](std::size_t index) const {
+    return blocks_[index];
+  }
+  const std::array<char*, count>& all() const {
+    return blocks_;
+  }
+
+ private:
+  std::array<char*, count> blocks_;
+};
+
+}  // namespace zeph
+
+#endif  // ZEPH_FRAME_OWNED_BUFFERS_H

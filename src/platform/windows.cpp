@@ -1,0 +1,33 @@
+// The platform on Windows.
+#define WIN32_LEAN_AND_MEAN
+#include <malloc.h>
+#include <windows.h>
+
+#include <cerrno>
+
+#include "platform/platform.h"
+
+namespace zeph {
+
+LocalTime local_time() {
+  SYSTEMTIME now;
+  GetLocalTime(&now);
+  return {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond, now.wMilliseconds};
+}
+
+std::uint32_t last_error() {
+  return GetLastError();
+}
+
+std::size_t block_capacity(void* block) {
+  return _msize(block);
+}
+
+ErrorStateKeeper::ErrorStateKeeper() : errno_(errno), last_error_(GetLastError()) {}
+
+ErrorStateKeeper::~ErrorStateKeeper() {
+  errno = errno_;
+  SetLastError(last_error_);
+}
+
+}  // namespace zeph

@@ -1,0 +1,93 @@
+#include "support/refusing_heap.h"
+
+#include <atomic>
+#include <cerrno>
+#include <cstddef>
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+// Requests are counted from 1; those from `first` to `first + count - 1` are refused.
+struct Gate {
+  std::atomic<long> seen{0};
+  std::atomic<long> first{0};
+  std::atomic<long> count{0};
+
+  bool refuses() {
+    const long number = ++seen;
+    return number >= first && number < first + count;
+  }
+  void close(long from, long many) {
+    count = 0;
+    seen = 0;
+    first = from;
+    count = many;
+  }
+};
+
+Gate calloc_gate;
+Gate new_gate;
+
+}  // namespace
+
+#ifndef _WIN32
+// This program's calloc takes the place of the runtime's for the whole process. The sanitizers'
+// heap has to be reached under its own name, so that free() finds its blocks again.
+extern "C" {
+__attribute__((weak)) void* __interceptor_calloc(std::size_t count, std::size_t size);
+void* __libc_calloc(std::size_t count, std::size_t size);
+
+void* calloc(std::size_t count, std::size_t size) {
+  if (calloc_gate.refuses()) {
+    errno = ENOMEM;
+    return nullptr;
+  }
+  return __interceptor_calloc ? __interceptor_calloc(count, size) : __libc_calloc(count, size);
+}
+}
+
+void* operator new(std::size_t size) {
+  void* const block = new_gate.refuses() ? nullptr : std::malloc(size > 0 ? size : 1);
+  if (!block) throw std::bad_alloc();
+  return block;
+}
+
+void operator delete(void* block) noexcept {
+  std::free(block);
+}
+
+void operator delete(void* block, std::size_t) noexcept {
+  std::free(block);
+}
+#endif
+
+namespace zeph_test {
+
+RefusingHeap::RefusingHeap() {
+  calloc_gate.close(0, 0);
+  new_gate.close(0, 0);
+}
+
+RefusingHeap::~RefusingHeap() {
+  calloc_gate.close(0, 0);
+  new_gate.close(0, 0);
+}
+
+void RefusingHeap::refuse_calloc(long first, long count) {
+  calloc_gate.close(first, count);
+}
+
+void RefusingHeap::refuse_new(long first, long count) {
+  new_gate.close(first, count);
+}
+
+long RefusingHeap::callocs() const {
+  return calloc_gate.seen;
+}
+
+long RefusingHeap::news() const {
+  return new_gate.seen;
+}
+
+}  // namespace zeph_test

@@ -1,0 +1,43 @@
+// Table tests: a struct with a `why`, an array of rows, one loop. A failing row names itself.
+//
+//     const struct { const char* why; const char* text; int limit; } rows[] = {
+//         {"limit cuts the middle field", "redgreen blue", 3},
+//     };
+//     each_row(rows, [](const auto& row) { EXPECT_EQ(...); });
+#ifndef ZEPH_TESTS_SUPPORT_TABLE_H
+#define ZEPH_TESTS_SUPPORT_TABLE_H
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <string>
+
+namespace zeph_test {
+
+template <typename Row, std::size_t count, typename Check>
+void each_row(const Row (&rows)[count], Check check) {
+  for (std::size_t i = 0; i < count; ++i) {
+    SCOPED_TRACE("row " + std::to_string(i) + ": " + rows[i].why);
+    check(rows[i]);
+  }
+}
+
+// Calls `check` with every text of at most `longest` bytes over the alphabet, the empty one first.
+template <typename Check>
+void each_text(const std::string& alphabet, std::size_t longest, Check check) {
+  std::string text;
+  const auto extend = [&](const auto& self) -> void {
+    check(text);
+    if (text.size() == longest) return;
+    for (const char byte : alphabet) {
+      text.push_back(byte);
+      self(self);
+      text.pop_back();
+    }
+  };
+  extend(extend);
+}
+
+}  // namespace zeph_test
+
+#endif  // ZEPH_TESTS_SUPPORT_TABLE_H
