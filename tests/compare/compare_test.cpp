@@ -1,0 +1,89 @@
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <string>
+
+#include "support/guarded_buffer.h"
+#include "support/table.h"
+#include "zeph.h"
+
+using namespace zeph_test;
+
+namespace {
+
+const struct {
+  const char* why;
+  const char* a;
+  const char* b;
+  bool exact, folded;
+} whole_rows[] = {
+    {"both empty", "", "", true, true},
+    {"one empty", "", "a", false, false},
+    {"equal", "abc", "abc", true, true},
+    {"a prefix is not equal", "abc", "abcd", false, false},
+    {"case", "ABC xyz", "abc XYZ", false, true},
+    {"a trail byte folds like a letter", "\xC4\x41", "\xC4\x61", false, true},
+};
+
+const struct {
+  const char* why;
+  const char* a;
+  const char* b;
+  int n;
+  bool exact, folded;
+} prefix_rows[] = {
+    {"nothing compared", "a", "b", 0, true, true},
+    {"difference behind the prefix", "abcX", "abcY", 3, true, true},
+    {"difference in the last byte", "abcX", "abcY", 4, false, false},
+    {"case in the prefix", "AbcX", "aBCy", 3, false, true},
+    {"both end inside", "abc", "abc", 9, true, true},
+    {"one ends inside", "abc", "abcd", 9, false, false},
+    {"one ends at n", "abc", "abcd", 3, true, true},
+    {"negative is no limit", "abc", "abcd", -1, false, false},
+    {"least is no limit", "abc", "ABC", INT_MIN, false, true},
+};
+
+}  // namespace
+
+TEST(Compare, WholeTexts) {
+  each_row(whole_rows, [](const auto& row) {
+    GuardedText a(row.a), b(row.b);
+    std::string string_a = row.a, string_b = row.b;
+    EXPECT_EQ(Orbane::Zeph_Compare(a.data(), b.data()), row.exact);
+    EXPECT_EQ(Orbane::Zeph_Compare(string_a, string_b), row.exact);
+    EXPECT_EQ(Orbane::Zeph_Compare_L(a.data(), b.data()), row.folded);
+    EXPECT_EQ(Orbane::Zeph_Compare_L(string_a, string_b), row.folded);
+  });
+}
+
+TEST(Compare, Prefixes) {
+  each_row(prefix_rows, [](const auto& row) {
+    GuardedText a(row.a), b(row.b);
+    std::string string_a = row.a, string_b = row.b;
+    EXPECT_EQ(Orbane::Zeph_Compare(a.data(), b.data(), row.n), row.exact);
+    EXPECT_EQ(Orbane::Zeph_Compare(string_a, string_b, row.n), row.exact);
+    EXPECT_EQ(Orbane::Zeph_Compare_L(a.data(), b.data(), row.n), row.folded);
+    EXPECT_EQ(Orbane::Zeph_Compare_L(string_a, string_b, row.n), row.folded);
+  });
+}
+
+TEST(Compare, StringsEndAtTheirFirstZeroByte) {
+  std::string x("ab\0x", 4), y("ab\0y", 4), plain("AB");
+  EXPECT_TRUE(Orbane::Zeph_Compare(x, y));
+  EXPECT_TRUE(Orbane::Zeph_Compare(x, y, 4));
+  EXPECT_TRUE(Orbane::Zeph_Compare_L(x, plain));
+  EXPECT_TRUE(Orbane::Zeph_Compare_L(x, plain, 4));
+  EXPECT_EQ(x, std::string("ab\0x", 4)) << "unchanged";
+}
+
+// Every pair of bytes against the fold of the ASCII letters.
+TEST(Compare, EveryPairOfBytes) {
+  const auto fold = [](int c) { return c >= 'A' && c <= 'Z' ? c + 32 : c; };
+  for (int i = 1; i < 256; ++i) {
+    for (int j = 1; j < 256; ++j) {
+      const char a[] = {static_cast<char>(i), '\0'}, b[] = {static_cast<char>(j), '\0'};
+      ASSERT_EQ(Orbane::Zeph_Compare(a, b), i == j) << i << ' ' << j;
+      ASSERT_EQ(Orbane::Zeph_Compare_L(a, b), fold(i) == fold(j)) << i << ' ' << j;
+    }
+  }
+}

@@ -1,0 +1,38 @@
+#include "frame/formatted_text.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <string>
+
+#include "support/guarded_buffer.h"
+
+using zeph_test::GuardedBuffer;
+
+TEST(FormattedText, BoundedCutsWithoutNotice) {
+  GuardedBuffer buffer(16);
+  EXPECT_EQ(zeph::format_bounded(buffer.data(), 16, "%s", "2025/07/29 08:05:09"), 19);
+  EXPECT_STREQ(buffer.data(), "2025/07/29 08:0");
+  EXPECT_EQ(zeph::format_bounded(nullptr, 0, "%d", 123), 3);
+}
+
+TEST(FormattedText, StrictWritesWhatWasMeasured) {
+  const int length = zeph::measure_format("%.2lf", 0.125);
+  ASSERT_EQ(length, 4);
+  GuardedBuffer exact(5), tight(4);
+  EXPECT_EQ(zeph::format_strict(exact.data(), 5, "%.2lf", 0.125), 4);
+  EXPECT_STREQ(exact.data(), "0.12") << "a tie goes to the even digit";
+  EXPECT_EQ(zeph::format_strict(tight.data(), 4, "%.2lf", 0.125), -1);
+  EXPECT_STREQ(tight.data(), "");
+  EXPECT_EQ(zeph::format_strict(nullptr, 0, "%d", 1), -1);
+}
+
+TEST(FormattedText, ScanCountsFieldsAndKeepsErrno) {
+  double value = 7;
+  errno = 3;
+  EXPECT_EQ(zeph::scan_text("1e999", "%lf", &value), 1);
+  EXPECT_EQ(errno, 3);
+  value = 7;
+  EXPECT_NE(zeph::scan_text("x", "%lf", &value), 1);
+  EXPECT_EQ(value, 7);
+}

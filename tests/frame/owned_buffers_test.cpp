@@ -1,0 +1,192 @@
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+#include "support/guarded_buffer.h"
+#include "support/refusing_heap.h"
+#include "support/stdout_capture.h"
+#include "support/table.h"
+#include "zeph.h"
+
+using namespace zeph_test;
+
+namespace {
+
+const char prepare_refused[] = "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem";
+
+// An owned buffer that ends with its test.
+struct Owned {
+  char* block = nullptr;
+  ~Owned() {
+    Orbane::Zeph_Release_Mem(&block);
+  }
+};
+
+}  // namespace
+
+TEST(MemText, NullReadsAsTheOneEmptyText) {
+  char text[] = "ab";
+  char empty[] = "";
+  EXPECT_EQ(Orbane::Zeph_Get_Mem_Str(text), text);
+  EXPECT_EQ(Orbane::Zeph_Get_Mem_Str(empty), empty);
+  EXPECT_STREQ(Orbane::Zeph_Get_Mem_Str(nullptr), "");
+  EXPECT_EQ(Orbane::Zeph_Get_Mem_Str(nullptr), Orbane::Zeph_Get_Mem_Str(nullptr));
+  EXPECT_EQ(Orbane::Zeph_Get_Mem_Size(text), 2);
+  EXPECT_EQ(Orbane::Zeph_Get_Mem_Size(nullptr), 0);
+}
+
+TEST(CopyMem, DecidesByTheHeldText) {
+  Owned held;
+  ASSERT_TRUE(Orbane::Zeph_Copy_Mem(&held.block, "hello"));
+  char* const first = held.block;
+  ASSERT_TRUE(Orbane::Zeph_Copy_Mem(&held.block, "abc"));
+  EXPECT_EQ(held.block, first);
+  EXPECT_EQ(std::string(held.block, 6), std::string("abc\0o\0", 6)) << "bytes behind stay";
+  ASSERT_TRUE(Orbane::Zeph_Copy_Mem(&held.block, held.block + 1)) << "from inside the held text";
+  EXPECT_STREQ(held.block, "bc");
+  RefusingHeap heap;
+  ASSERT_TRUE(Orbane::Zeph_Copy_Mem(&held.block, "xyz"));
+#ifndef _WIN32
+  EXPECT_EQ(heap.callocs(), 1) << "a longer text gets a new block, room or not";
+#endif
+  EXPECT_STREQ(held.block, "xyz");
+  ASSERT_TRUE(Orbane::Zeph_Copy_Mem(&held.block, nullptr));
+  EXPECT_EQ(std::string(held.block, 3), std::string("\0yz", 3)) << "one byte is written";
+  Owned fresh;
+  ASSERT_TRUE(Orbane::Zeph_Copy_Mem(&fresh.block, nullptr));
+  EXPECT_STREQ(fresh.block, "");
+}
+
+TEST(CopyMem, RefusedBlockIsReported) {
+  REQUIRE_REFUSING_HEAP;
+  const struct {
+    const char* why;
+    const char* held;
+    const char* source;
+    const char* message;
+  } rows[] = {
+      {"text", nullptr, "a%d", "[Zeph] Memory calloc Fail in STR_MEM_MAKE_COPY <= [a%d]"},
+      {"NULL", nullptr, nullptr, "[Zeph] Memory calloc Fail in STR_MEM_MAKE_COPY <= NULL"},
+      {"the old block is gone", "a", "ab",
+       "[Zeph] Memory calloc Fail in STR_MEM_MAKE_COPY <= [ab]"},
+  };
+  each_row(rows, [](const auto& row) {
+    Owned owned;
+    if (row.held) Orbane::Zeph_Copy_Mem(&owned.block, row.held);
+    RefusingHeap heap;
+    heap.refuse_calloc(1);
+    StdoutCapture capture;
+    errno = 5;
+    EXPECT_FALSE(Orbane::Zeph_Copy_Mem(&owned.block, row.source));
+    EXPECT_EQ(errno, 5);
+    EXPECT_EQ(owned.block, nullptr);
+    EXPECT_EQ(capture.text(), banner(row.message));
+  });
+}
+
+TEST(Overlay, WritesInsideTheTextOnly) {
+  const char* const pointer = "[Zeph] Invalid pointer in Zeph_Copy_Mem";
+  const char* const index = "[Zeph] StartIndex out of bounds in Zeph_Copy_Mem";
+  const char* const bounds =
+      "[Zeph] Copy operation would exceed SourceString bounds in Zeph_Copy_Mem";
+  const struct {
+    const char* why;
+    const char* target;
+    int start;
+    const char* source;
+    int count;
+    const char* report;  // NULL where the bytes are written
+    const char* result;
+  } rows[] = {
+      {"up to the terminator", "abcd", 2, "XY", -1, nullptr, "abXY"},
+      {"one too far", "abcd", 3, "XY", -1, bounds, "abcd"},
+      {"on the terminator", "abcd", 4, "XY", -1, index, "abcd"},
+      {"negative start", "abcd", -1, "XY", -1, index, "abcd"},
+      {"empty target", "", 0, "", 0, index, ""},
+      {"count cuts", "abcd", 3, "XY", 1, nullptr, "abcX"},
+      {"count 0", "abcd", 0, "XY", 0, nullptr, "abcd"},
+      {"count beyond the source", "abcd", 0, "XY", 9, nullptr, "XYcd"},
+      {"least count", "abcd", 1, "XY", INT_MIN, nullptr, "aXYd"},
+      {"no source", "abcd", 9, nullptr, 1, pointer, "abcd"},
+      {"no target", nullptr, 0, "XY", 1, pointer, nullptr},
+  };
+  each_row(rows, [](const auto& row) {
+    GuardedText target(row.target ? row.target : "");
+    GuardedText source(row.source ? row.source : "");
+    StdoutCapture capture;
+    EXPECT_EQ(Orbane::Zeph_Copy_Mem(row.target ? target.data() : nullptr, row.start,
+                                    row.source ? source.data() : nullptr, row.count),
+              row.report == nullptr);
+    if (row.result) {
+      EXPECT_STREQ(target.data(), row.result);
+    }
+    EXPECT_EQ(capture.text(), row.report ? banner(row.report) : "");
+  });
+  GuardedText bare("XY", End::bare);
+  char line[] = "abcd";
+  EXPECT_TRUE(Orbane::Zeph_Copy_Mem(line, 1, bare.data(), 2)) << "count ends the source";
+  EXPECT_STREQ(line, "aXYd");
+}
+
+TEST(Overlay, CopiesInRisingOrder) {
+  char up[] = "abcdef";
+  EXPECT_TRUE(Orbane::Zeph_Copy_Mem(up, 1, up, 4));
+  EXPECT_STREQ(up, "aaaaaf");
+  char down[] = "abcdef";
+  EXPECT_TRUE(Orbane::Zeph_Copy_Mem(down, 0, down + 1, 4));
+  EXPECT_STREQ(down, "bcdeef");
+}
+
+TEST(PrepareMem, DecidesByTheCapacity) {
+  Owned owned;
+  ASSERT_TRUE(Orbane::Zeph_Prepare_Mem(&owned.block, 100));
+  EXPECT_EQ(std::string(owned.block, 100), std::string(100, '\0'));
+  std::strcpy(owned.block, "held");
+  char* const first = owned.block;
+  for (const int size : {100, 1, 0, -1, INT_MIN}) {
+    EXPECT_TRUE(Orbane::Zeph_Prepare_Mem(&owned.block, size)) << size;
+    EXPECT_EQ(owned.block, first) << size;
+  }
+  EXPECT_STREQ(owned.block, "held");
+  ASSERT_TRUE(Orbane::Zeph_Prepare_Mem(&owned.block, 5000));
+  EXPECT_EQ(std::string(owned.block, 5000), std::string(5000, '\0'));
+}
+
+TEST(PrepareMem, RefusalsAreReported) {
+  for (const int size : {-1, INT_MIN}) {
+    char* block = nullptr;
+    StdoutCapture capture;
+    EXPECT_FALSE(Orbane::Zeph_Prepare_Mem(&block, size));
+    EXPECT_EQ(block, nullptr);
+    EXPECT_EQ(capture.text(), banner(prepare_refused));
+  }
+  REQUIRE_REFUSING_HEAP;
+  Owned owned;
+  Orbane::Zeph_Prepare_Mem(&owned.block, 10);
+  RefusingHeap heap;
+  heap.refuse_calloc(1);
+  StdoutCapture capture;
+  EXPECT_FALSE(Orbane::Zeph_Prepare_Mem(&owned.block, 5000)) << "the old block is freed first";
+  EXPECT_EQ(owned.block, nullptr);
+  EXPECT_EQ(capture.text(), banner(prepare_refused));
+  EXPECT_TRUE(Orbane::Zeph_Prepare_Mem(&owned.block, 5000)) << "and ready to start again";
+}
+
+TEST(ReleaseMem, LeavesNull) {
+  char* block = static_cast<char*>(std::malloc(8));
+  Orbane::Zeph_Release_Mem(&block);
+  EXPECT_EQ(block, nullptr);
+  Orbane::Zeph_Release_Mem(&block);
+  EXPECT_EQ(block, nullptr);
+}
+
+TEST(SetMem, FillsWithTheLowByte) {
+  GuardedBuffer room(3);
+  EXPECT_EQ(Orbane::Zeph_Set_Mem(room.data(), 0x1C4, 2), room.data());
+  EXPECT_EQ(std::string(room.data(), 3), "\xC4\xC4\x5A");
+  EXPECT_EQ(Orbane::Zeph_Set_Mem(nullptr, 1, 0), nullptr);
+}
