@@ -36,7 +36,7 @@ class ErrorStateKeeper {
 
  private:
   int errno_;
-  std::uint32_t last_error_;
+  [[maybe_unused]] std::uint32_t last_error_;  // where the system keeps one beside errno
 };
 
 }  // namespace zeph

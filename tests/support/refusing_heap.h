@@ -3,10 +3,10 @@
 // heap: `REQUIRE_REFUSING_HEAP` skips a test there.
 //
 //     RefusingHeap heap;
-//     heap.refuse_calloc(2);     // the second calloc from here on gives NULL, the others are
-//     served heap.refuse_calloc(1, 3);  // the first three heap.refuse_new(1);        // the first
-//     operator new throws std::bad_alloc heap.callocs();            // requests seen since the last
-//     refuse_calloc or the start
+//     heap.refuse_calloc(2);     // the second calloc from here on gives NULL, others do not
+//     heap.refuse_calloc(1, 3);  // the first three
+//     heap.refuse_new(1);        // the first operator new throws std::bad_alloc
+//     heap.callocs();            // requests since the last refuse_calloc or the start
 //
 // The destructor ends all refusals.
 #ifndef ZEPH_TESTS_SUPPORT_REFUSING_HEAP_H
