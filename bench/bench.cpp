@@ -1,0 +1,165 @@
+#include "bench.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <unordered_map>
+
+namespace zeph_bench {
+namespace {
+
+// What a whole run knows. It is filled while the rows are registered.
+struct Session {
+  std::vector<std::unique_ptr<Row>> rows;
+  std::unordered_map<std::string, Timing*> timings;  // by the name that the benchmark carries
+  std::vector<std::string> remarks;
+  bool wrong = false;
+};
+
+Session& session() {
+  static Session the_session;
+  return the_session;
+}
+
+// Takes in the rounds and prints nothing: the table comes when all of them are there.
+class Collector : public benchmark::BenchmarkReporter {
+ public:
+  bool ReportContext(const Context&) override {
+    return true;
+  }
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& one : runs) {
+      if (one.run_type != Run::RT_Iteration || one.iterations == 0) continue;
+      const auto found = session().timings.find(one.run_name.function_name);
+      if (found == session().timings.end()) continue;
+      const double seconds = one.cpu_accumulated_time / static_cast<double>(one.iterations);
+      found->second->rounds.push_back(seconds * 1e9);
+    }
+  }
+};
+
+double median(std::vector<double> values) {
+  if (values.empty()) return 0;
+  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+  std::nth_element(values.begin(), middle, values.end());
+  return *middle;
+}
+
+constexpr double slow = 0.8;
+
+void print_line(const Row& row, double zeph, const std::string& peer, double peer_time) {
+  const double ratio = peer_time / zeph;
+  std::printf("%-10s %-28s %-24s %9.2f %7.2f   %-30s %9.2f %6.2f%s\n", row.family().c_str(),
+              row.operation().c_str(), row.input().c_str(), zeph,
+              static_cast<double>(row.bytes()) / zeph, peer.c_str(), peer_time, ratio,
+              ratio < slow ? "  < 0.8" : "");
+}
+
+// Returns whether the row was timed and is below the mark.
+bool print_row(const Row& row, bool all_peers) {
+  std::vector<std::pair<double, std::string>> times;
+  for (const auto& timing : row.timings()) {
+    if (!timing->rounds.empty()) times.emplace_back(median(timing->rounds), timing->who);
+  }
+  if (times.size() < 2 || times[0].second != "Zeph") return false;
+  const double zeph = times[0].first;
+  std::sort(times.begin() + 1, times.end());
+  const std::size_t shown = all_peers ? times.size() : 2;
+  for (std::size_t i = 1; i < shown; ++i) print_line(row, zeph, times[i].second, times[i].first);
+  return times[1].first / zeph < slow;
+}
+
+void print_table(bool all_peers) {
+  std::printf("%-10s %-28s %-24s %9s %7s   %-30s %9s %6s\n", "family", "operation", "input",
+              "Zeph ns", "GB/s", all_peers ? "peer" : "best peer", "ns", "ratio");
+  std::size_t below = 0;
+  for (const auto& row : session().rows) below += print_row(*row, all_peers) ? 1 : 0;
+  std::printf(
+      "\n%zu rows, %zu below %.1f. ratio = peer's time / Zeph's time; above 1 Zeph is faster."
+      "\n",
+      session().rows.size(), below, slow);
+  for (const std::string& remark : session().remarks) std::printf("- %s\n", remark.c_str());
+}
+
+}  // namespace
+
+std::string answer_text(std::string_view answer) {
+  return std::string(answer);
+}
+
+std::string answer_text(double answer) {
+  char digits[32];
+  std::snprintf(digits, sizeof digits, "%a", answer);
+  return digits;
+}
+
+Row::Row(std::string family, std::string operation, std::string input, std::size_t bytes)
+    : family_(std::move(family)),
+      operation_(std::move(operation)),
+      input_(std::move(input)),
+      bytes_(bytes) {}
+
+Row& Row::outputs(std::function<std::string()> read) {
+  outputs_ = std::move(read);
+  return *this;
+}
+
+Row& Row::missing_peer(const char* name) {
+  const std::string remark = family_ + ": " + name + " is not in this build, its rows are left out";
+  std::vector<std::string>& remarks = session().remarks;
+  if (std::find(remarks.begin(), remarks.end(), remark) == remarks.end()) {
+    remarks.push_back(remark);
+  }
+  return *this;
+}
+
+Row& Row::note(const std::string& text) {
+  session().remarks.push_back(operation_ + ", " + input_ + ": " + text);
+  return *this;
+}
+
+std::string Row::timing_name(const char* who) {
+  timings_.push_back(std::make_unique<Timing>(Timing{who, {}}));
+  std::string name = family_ + ": " + operation_ + ": " + input_ + ": " + who;
+  if (!session().timings.emplace(name, timings_.back().get()).second) {
+    std::fprintf(stderr, "two timings are named %s\n", name.c_str());
+    session().wrong = true;
+  }
+  return name;
+}
+
+void Row::check(const char* who, const std::string& answer, const char* differs) {
+  if (differs) {
+    note(std::string(who) + " differs by nature: " + differs);
+    return;
+  }
+  if (answer == expected_) return;
+  std::fprintf(stderr, "%s, %s, %s: Zeph gives [%.200s], %s gives [%.200s]\n", family_.c_str(),
+               operation_.c_str(), input_.c_str(), expected_.c_str(), who, answer.c_str());
+  session().wrong = true;
+}
+
+Row& row(const char* family, std::string operation, std::string input, std::size_t bytes) {
+  session().rows.push_back(
+      std::make_unique<Row>(family, std::move(operation), std::move(input), bytes));
+  return *session().rows.back();
+}
+
+int run(const RunOptions& options, std::vector<char*> arguments) {
+  if (session().wrong) return 1;
+  // The rounds of all operations are shuffled, so that a disturbance of the machine does not fall
+  // on one side of a row.
+  std::string shuffle = "--benchmark_enable_random_interleaving=true";
+  std::string rounds = "--benchmark_repetitions=" + std::string(options.quick ? "3" : "11");
+  std::string round_time = "--benchmark_min_time=" + std::string(options.quick ? "0.0005" : "0.01");
+  arguments.insert(arguments.begin() + 1, {shuffle.data(), rounds.data(), round_time.data()});
+  auto count = static_cast<int>(arguments.size());
+  arguments.push_back(nullptr);
+  benchmark::Initialize(&count, arguments.data());
+  if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 1;
+  Collector collector;
+  benchmark::RunSpecifiedBenchmarks(&collector);
+  print_table(options.all_peers);
+  return 0;
+}
+
+}  // namespace zeph_bench

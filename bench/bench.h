@@ -1,0 +1,141 @@
+// Paired measurements: a row is one operation on one input, done by Zeph and by each of its peers.
+//
+//     void register_compare_rows() {
+//       auto& texts = keep(Pair{...});
+//       row("compare", "Zeph_Compare", "64 bytes", 64)
+//           .zeph([&texts] { return Orbane::Zeph_Compare(texts.a, texts.b); })
+//           .peer("strcmp", [&texts] { return std::strcmp(texts.a, texts.b) == 0; });
+//     }
+//
+// Before anything is timed, each peer's answer is held against Zeph's. The answer is what the
+// operation returned, or, where outputs() was given, the text that it makes of the outputs. An
+// operation is stored by value and runs later, so it may refer to nothing but what keep() holds.
+#ifndef ZEPH_BENCH_BENCH_H
+#define ZEPH_BENCH_BENCH_H
+
+#include <benchmark/benchmark.h>
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace zeph_bench {
+
+// One timed operation and the process time of a call in nanoseconds, once for each round.
+struct Timing {
+  std::string who;  // "Zeph" or the peer's name
+  std::vector<double> rounds;
+};
+
+// An answer as a text, for the comparison and for the message about a wrong one.
+std::string answer_text(std::string_view answer);
+std::string answer_text(double answer);
+template <typename Integer, typename = std::enable_if_t<std::is_integral_v<Integer>>>
+std::string answer_text(Integer answer) {
+  return std::to_string(answer);
+}
+
+class Row {
+ public:
+  Row(std::string family, std::string operation, std::string input, std::size_t bytes);
+
+  // How the outputs of the operations are read, if their result alone is not the answer. It should
+  // also spoil the outputs, so that a peer that writes nothing is found out. Stands before zeph().
+  Row& outputs(std::function<std::string()> read);
+
+  template <typename Operation>
+  Row& zeph(Operation operation) {
+    expected_ = answer(operation);
+    return time("Zeph", std::move(operation));
+  }
+
+  // `differs` tells why this peer's answer is another one by nature; it is printed, and the answer
+  // is not compared.
+  template <typename Operation>
+  Row& peer(const char* name, Operation operation, const char* differs = nullptr) {
+    check(name, answer(operation), differs);
+    return time(name, std::move(operation));
+  }
+
+  // A peer that this build does not have.
+  Row& missing_peer(const char* name);
+
+  // A remark that is printed below the table, for example why a row is slower than its peer.
+  Row& note(const std::string& text);
+
+  const std::string& family() const {
+    return family_;
+  }
+  const std::string& operation() const {
+    return operation_;
+  }
+  const std::string& input() const {
+    return input_;
+  }
+  std::size_t bytes() const {
+    return bytes_;
+  }
+  const std::vector<std::unique_ptr<Timing>>& timings() const {
+    return timings_;
+  }
+
+ private:
+  template <typename Operation>
+  std::string answer(Operation& operation) {
+    const auto result = operation();
+    if (outputs_) return outputs_();
+    if constexpr (std::is_pointer_v<decltype(result)> &&
+                  !std::is_convertible_v<decltype(result), std::string_view>) {
+      return answer_text(result != nullptr);
+    } else {
+      return answer_text(result);
+    }
+  }
+
+  template <typename Operation>
+  Row& time(const char* who, Operation operation) {
+    const auto loop = [operation](benchmark::State& state) {
+      Operation call = operation;  // a local, so that the loop has what it refers to in registers
+      for (auto _ : state) benchmark::DoNotOptimize(call());
+    };
+    benchmark::RegisterBenchmark(timing_name(who).c_str(), loop);
+    return *this;
+  }
+
+  std::string timing_name(const char* who);
+  void check(const char* who, const std::string& answer, const char* differs);
+
+  std::string family_, operation_, input_;
+  std::size_t bytes_;
+  std::function<std::string()> outputs_;
+  std::string expected_;
+  std::vector<std::unique_ptr<Timing>> timings_;
+};
+
+// A new row. `bytes` is what one call works through, for the throughput column.
+Row& row(const char* family, std::string operation, std::string input, std::size_t bytes);
+
+// Holds what the operations work on until the program ends.
+template <typename Fixture>
+Fixture& keep(Fixture fixture) {
+  static std::vector<std::unique_ptr<Fixture>> kept;
+  kept.push_back(std::make_unique<Fixture>(std::move(fixture)));
+  return *kept.back();
+}
+
+// Times all rows and prints the table. `arguments` are Google Benchmark's own options. Returns the
+// exit status: 1 if any answer was wrong.
+struct RunOptions {
+  bool quick = false;      // a few rounds, to see that everything runs
+  bool all_peers = false;  // a line for each peer, not only for the best one
+};
+int run(const RunOptions& options, std::vector<char*> arguments);
+
+}  // namespace zeph_bench
+
+#endif  // ZEPH_BENCH_BENCH_H

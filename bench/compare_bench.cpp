@@ -1,0 +1,75 @@
+// Comparison against the runtime's own services, on texts that are equal (the whole length is
+// read) and on texts that differ in their first and in their last byte.
+#include <strings.h>
+
+#include <cstring>
+#include <string>
+
+#include "bench.h"
+#include "zeph.h"
+
+namespace zeph_bench {
+namespace {
+
+struct Pair {
+  std::string a, b;
+  int n;  // the count of the prefix members: all but the last byte
+};
+
+Pair make_pair(std::size_t size, bool fold) {
+  Pair pair;
+  while (pair.a.size() < size) pair.a += "Chamber Pressure 0.75 mTorr; ";
+  pair.a.resize(size);
+  pair.b = pair.a;
+  if (fold) {
+    for (char& byte : pair.b)
+      byte = byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 32) : byte;
+  }
+  pair.n = static_cast<int>(size) - 1;
+  return pair;
+}
+
+std::string size_text(std::size_t size) {
+  return size < 1024 ? std::to_string(size) + " bytes" : std::to_string(size / 1024) + " KiB";
+}
+
+void add_exact_rows(Pair& t, const std::string& input) {
+  row("compare", "Zeph_Compare", input, t.a.size())
+      .zeph([&t] { return Orbane::Zeph_Compare(t.a.c_str(), t.b.c_str()); })
+      .peer("strcmp", [&t] { return std::strcmp(t.a.c_str(), t.b.c_str()) == 0; });
+  row("compare", "Zeph_Compare String", input, t.a.size())
+      .zeph([&t] { return Orbane::Zeph_Compare(t.a, t.b); })
+      .peer("strcmp of c_str", [&t] { return std::strcmp(t.a.c_str(), t.b.c_str()) == 0; })
+      .peer("std::string ==", [&t] { return t.a == t.b; });
+  row("compare", "Zeph_Compare n", input, t.a.size())
+      .zeph([&t] { return Orbane::Zeph_Compare(t.a.c_str(), t.b.c_str(), t.n); })
+      .peer("strncmp", [&t] {
+        return std::strncmp(t.a.c_str(), t.b.c_str(), static_cast<std::size_t>(t.n)) == 0;
+      });
+}
+
+void add_fold_rows(Pair& t, const std::string& input) {
+  row("compare", "Zeph_Compare_L", input, t.a.size())
+      .zeph([&t] { return Orbane::Zeph_Compare_L(t.a.c_str(), t.b.c_str()); })
+      .peer("strcasecmp", [&t] { return strcasecmp(t.a.c_str(), t.b.c_str()) == 0; });
+  row("compare", "Zeph_Compare_L n", input, t.a.size())
+      .zeph([&t] { return Orbane::Zeph_Compare_L(t.a.c_str(), t.b.c_str(), t.n); })
+      .peer("strncasecmp", [&t] {
+        return strncasecmp(t.a.c_str(), t.b.c_str(), static_cast<std::size_t>(t.n)) == 0;
+      });
+}
+
+}  // namespace
+
+void register_compare_rows() {
+  for (const std::size_t size : {16, 64, 4096}) {
+    add_exact_rows(keep(make_pair(size, false)), size_text(size) + ", equal");
+    add_fold_rows(keep(make_pair(size, true)), size_text(size) + ", other case");
+  }
+  Pair& first = keep(make_pair(64, false));
+  first.b.front() = '#';
+  add_exact_rows(first, "64 bytes, first differs");
+  add_fold_rows(first, "64 bytes, first differs");
+}
+
+}  // namespace zeph_bench

@@ -1,0 +1,231 @@
+// Fields from the left against the cuts that are written by hand. Each text has five fields, so
+// that the last field of a smaller count holds separators.
+#include <algorithm>
+#include <cstring>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "bench.h"
+#include "zeph.h"
+
+namespace zeph_bench {
+namespace {
+
+struct Cut {
+  std::string text;
+  char separator;
+  int limit;
+  std::vector<std::vector<char>> rooms;
+  std::string strings[5];
+  std::vector<char> copy;  // for strtok_r, which writes into its text
+
+  Cut(std::string from, char between, int most)
+      : text(std::move(from)),
+        separator(between),
+        limit(most),
+        rooms(5, std::vector<char>(static_cast<std::size_t>(most) + 1)),
+        copy(text.size() + 1) {}
+
+  // The outputs in front of `count`, one a line; they are spoiled.
+  std::string take_rooms(std::size_t count) {
+    std::string all;
+    for (std::size_t i = 0; i < count; ++i) {
+      all += std::string(rooms[i].data()) + '\n';
+      std::fill(rooms[i].begin(), rooms[i].end() - 1, '#');
+    }
+    return all;
+  }
+  std::string take_strings(std::size_t count) {
+    std::string all;
+    for (std::size_t i = 0; i < count; ++i) {
+      all += strings[i] + '\n';
+      strings[i] = "#";
+    }
+    return all;
+  }
+};
+
+// ---- the peers ----
+
+const char* cut_field(char* out, const char* from, const char* end, std::size_t limit) {
+  const std::size_t size = std::min(static_cast<std::size_t>(end - from), limit);
+  std::memcpy(out, from, size);
+  out[size] = '\0';
+  return *end == '\0' ? end : end + 1;
+}
+
+// The cut that a careful user writes once and calls from everywhere.
+template <std::size_t count>
+[[gnu::noinline]] int cut_by_strchrnul(const char* text, char separator, char* const (&outs)[count],
+                                       std::size_t limit) {
+  for (std::size_t i = 0; i + 1 < count; ++i) {
+    text = cut_field(outs[i], text, strchrnul(text, separator), limit);
+  }
+  cut_field(outs[count - 1], text, text + std::strlen(text), limit);
+  return 0;
+}
+
+template <std::size_t count>
+[[gnu::noinline]] int cut_words_by_strchrnul(const char* text, char* const (&outs)[count],
+                                             std::size_t limit) {
+  for (std::size_t i = 0; i + 1 < count; ++i) {
+    text = cut_field(outs[i], text, strchrnul(text, ' '), limit);
+    text += std::strspn(text, " ");
+  }
+  cut_field(outs[count - 1], text, text + std::strlen(text), limit);
+  return 0;
+}
+
+template <std::size_t count>
+[[gnu::noinline]] int cut_by_strtok(Cut& c, char* const (&outs)[count], std::size_t limit) {
+  const char separators[] = {c.separator, '\0'};
+  std::memcpy(c.copy.data(), c.text.c_str(), c.text.size() + 1);
+  char* rest = c.copy.data();
+  for (std::size_t i = 0; i < count; ++i) {
+    const char* const field = strtok_r(nullptr, i + 1 < count ? separators : "", &rest);
+    const char* const from = field ? field : "";
+    cut_field(outs[i], from, from + std::strlen(from), limit);
+  }
+  return 0;
+}
+
+template <std::size_t count>
+[[gnu::noinline]] int cut_by_find(const std::string& text, char separator, std::string* outs) {
+  std::size_t from = 0;
+  for (std::size_t i = 0; i + 1 < count; ++i) {
+    const std::size_t end = std::min(text.find(separator, from), text.size());
+    outs[i].assign(text, from, end - from);
+    from = std::min(end + 1, text.size());
+  }
+  outs[count - 1].assign(text, from, std::string::npos);
+  return 0;
+}
+
+template <std::size_t count>
+[[gnu::noinline]] int cut_by_substr(const std::string& text, char separator, std::string* outs) {
+  std::size_t from = 0;
+  for (std::size_t i = 0; i + 1 < count; ++i) {
+    const std::size_t end = std::min(text.find(separator, from), text.size());
+    outs[i] = text.substr(from, end - from);
+    from = std::min(end + 1, text.size());
+  }
+  outs[count - 1] = text.substr(from);
+  return 0;
+}
+
+template <std::size_t count>
+[[gnu::noinline]] int cut_by_getline(const std::string& text, char separator, std::string* outs) {
+  std::istringstream stream(text);
+  for (std::size_t i = 0; i + 1 < count; ++i) std::getline(stream, outs[i], separator);
+  std::getline(stream, outs[count - 1], '\0');
+  return 0;
+}
+
+// ---- the rows ----
+
+// Calls `use` with the first `count` outputs as separate arguments.
+template <std::size_t count, typename Outputs, typename Use>
+int with_outputs(Outputs& outs, Use use) {
+  if constexpr (count == 2) use(outs[0], outs[1]);
+  if constexpr (count == 3) use(outs[0], outs[1], outs[2]);
+  if constexpr (count == 5) use(outs[0], outs[1], outs[2], outs[3], outs[4]);
+  return 0;
+}
+
+template <std::size_t count>
+struct Outs {
+  char* at[count];
+  explicit Outs(Cut& c) {
+    for (std::size_t i = 0; i < count; ++i) at[i] = c.rooms[i].data();
+  }
+};
+
+template <std::size_t count>
+void add_byte_rows(Cut& c, const std::string& input) {
+  const char* const text = c.text.c_str();
+  const auto limit = static_cast<std::size_t>(c.limit);
+  const Outs<count> outs(c);
+  const std::string number = std::to_string(count);
+  const bool words = c.separator == ' ';
+  const auto read = [&c] { return c.take_rooms(count); };
+  const auto strtok_cut = [&c, outs, limit] { return cut_by_strtok<count>(c, outs.at, limit); };
+  if (words) {
+    row("fields", "Zeph_Seperate " + number, input, c.text.size())
+        .outputs(read)
+        .zeph([text, outs, &c] {
+          return with_outputs<count>(
+              outs.at, [&](auto... o) { Orbane::Zeph_Seperate(text, o..., c.limit); });
+        })
+        .peer("strchrnul + memcpy",
+              [text, outs, limit] { return cut_words_by_strchrnul<count>(text, outs.at, limit); })
+        .peer("copy + strtok_r", strtok_cut);
+  } else {
+    row("fields", "Zeph_Seperate_Char " + number, input, c.text.size())
+        .outputs(read)
+        .zeph([text, outs, &c] {
+          return with_outputs<count>(outs.at, [&](auto... o) {
+            Orbane::Zeph_Seperate_Char(text, c.separator, o..., c.limit);
+          });
+        })
+        .peer("strchrnul + memcpy",
+              [text, outs, limit, &c] {
+                return cut_by_strchrnul<count>(text, c.separator, outs.at, limit);
+              })
+        .peer("copy + strtok_r", strtok_cut);
+  }
+}
+
+template <std::size_t count>
+void add_string_rows(Cut& c, const std::string& input) {
+  row("fields",
+      std::string(c.separator == ' ' ? "Zeph_Seperate" : "Zeph_Seperate_Char") + " String " +
+          std::to_string(count),
+      input, c.text.size())
+      .outputs([&c] { return c.take_strings(count); })
+      .zeph([&c] {
+        return with_outputs<count>(c.strings, [&](auto&... o) {
+          if (c.separator == ' ') {
+            Orbane::Zeph_Seperate(c.text, o..., c.limit);
+          } else {
+            Orbane::Zeph_Seperate_Char(c.text, c.separator, o..., c.limit);
+          }
+        });
+      })
+      .peer("find + assign", [&c] { return cut_by_find<count>(c.text, c.separator, c.strings); })
+      .peer("find + substr", [&c] { return cut_by_substr<count>(c.text, c.separator, c.strings); })
+      .peer("getline", [&c] { return cut_by_getline<count>(c.text, c.separator, c.strings); });
+}
+
+// Five fields of the given lengths.
+std::string make_text(const std::vector<std::size_t>& sizes, char separator) {
+  std::string text;
+  for (const std::size_t size : sizes) {
+    if (!text.empty()) text += separator;
+    for (std::size_t i = 0; i < size; ++i) text += "Pressure:0.75"[i % 13];
+  }
+  return text;
+}
+
+void add_rows(const std::vector<std::size_t>& sizes, const std::string& input, int limit) {
+  for (const char separator : {',', ' '}) {
+    Cut& c = keep(Cut(make_text(sizes, separator), separator, limit));
+    add_byte_rows<2>(c, input);
+    add_byte_rows<3>(c, input);
+    add_byte_rows<5>(c, input);
+    add_string_rows<3>(c, input);
+  }
+}
+
+}  // namespace
+
+void register_fields_rows() {
+  add_rows({2, 3, 1, 3, 3}, "16 bytes", 63);
+  add_rows({19, 6, 8, 12, 15}, "64 bytes", 255);
+  // Words are left out: a full middle field ends the whole cut there, which no peer does.
+  add_byte_rows<3>(keep(Cut(make_text({12, 12, 12, 12, 12}, ','), ',', 8)), "64 bytes, limit 8");
+  add_rows({40, 60, 80, 100, 3812}, "4 KiB, long rest", 4096);
+  add_rows({818, 818, 818, 818, 820}, "4 KiB, long fields", 4096);
+}
+
+}  // namespace zeph_bench

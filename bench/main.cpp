@@ -1,0 +1,64 @@
+// zeph_bench [--quick] [--all-peers] [--family=NAME] [Google Benchmark's options]
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "bench.h"
+
+namespace zeph_bench {
+
+void register_compare_rows();
+void register_fields_rows();
+
+namespace {
+
+struct Family {
+  std::string_view name;
+  void (*register_rows)();
+};
+
+constexpr Family families[] = {
+    {"compare", register_compare_rows},
+    {"fields", register_fields_rows},
+};
+
+bool register_family(std::string_view name) {
+  for (const Family& family : families) {
+    if (family.name != name) continue;
+    family.register_rows();
+    return true;
+  }
+  std::fprintf(stderr, "no family %.*s; there are:", static_cast<int>(name.size()), name.data());
+  for (const Family& family : families) std::fprintf(stderr, " %s", family.name.data());
+  std::fputs("\n", stderr);
+  return false;
+}
+
+}  // namespace
+}  // namespace zeph_bench
+
+int main(int argc, char** argv) {
+  using zeph_bench::families;
+  zeph_bench::RunOptions options;
+  std::vector<char*> others(argv, argv + 1);
+  bool chosen = false;
+  for (int i = 1; i < argc; ++i) {
+    constexpr std::string_view family = "--family=";
+    const std::string_view argument = argv[i];
+    if (argument == "--quick") {
+      options.quick = true;
+    } else if (argument == "--all-peers") {
+      options.all_peers = true;
+    } else if (argument.substr(0, family.size()) == family) {
+      if (!zeph_bench::register_family(argument.substr(family.size()))) return 1;
+      chosen = true;
+    } else {
+      others.push_back(argv[i]);
+    }
+  }
+  if (!chosen) {
+    for (const auto& family : families) family.register_rows();
+  }
+  return zeph_bench::run(options, others);
+}
