@@ -26,17 +26,28 @@ constexpr std::size_t unknown_block = static_cast<std::size_t>(-1);
 // The size in bytes of a block of the runtime's heap, at least what was asked for.
 std::size_t block_capacity(void* block);
 
-// Keeps the error state of the thread, errno and the system's own, over a call that may change it.
+// The error state of the calling thread: errno, and the system's own last error where it has one.
+struct ErrorState {
+  int errno_value;
+  std::uint32_t system_error;
+};
+
+ErrorState error_state();
+void restore_error_state(const ErrorState& state);
+
+// Keeps the error state over a call that may change it.
 class ErrorStateKeeper {
  public:
-  ErrorStateKeeper();
-  ~ErrorStateKeeper();
+  ErrorStateKeeper() : state_(error_state()) {
+  }
+  ~ErrorStateKeeper() {
+    restore_error_state(state_);
+  }
   ErrorStateKeeper(const ErrorStateKeeper&) = delete;
   ErrorStateKeeper& operator=(const ErrorStateKeeper&) = delete;
 
  private:
-  int errno_;
-  [[maybe_unused]] std::uint32_t last_error_;  // where the system keeps one beside errno
+  ErrorState state_;
 };
 
 }  // namespace zeph

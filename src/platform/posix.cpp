@@ -78,10 +78,12 @@ std::size_t block_capacity(void* block) {
 }
 
 // A host's own GetLastError is the host's business: the library calls nothing that changes it.
-ErrorStateKeeper::ErrorStateKeeper() : errno_(errno), last_error_(0) {}
+ErrorState error_state() {
+  return {errno, 0};
+}
 
-ErrorStateKeeper::~ErrorStateKeeper() {
-  errno = errno_;
+void restore_error_state(const ErrorState& state) {
+  errno = state.errno_value;
 }
 
 }  // namespace zeph

@@ -23,11 +23,13 @@ std::size_t block_capacity(void* block) {
   return _msize(block);
 }
 
-ErrorStateKeeper::ErrorStateKeeper() : errno_(errno), last_error_(GetLastError()) {}
+ErrorState error_state() {
+  return {errno, GetLastError()};
+}
 
-ErrorStateKeeper::~ErrorStateKeeper() {
-  errno = errno_;
-  SetLastError(last_error_);
+void restore_error_state(const ErrorState& state) {
+  errno = state.errno_value;
+  SetLastError(state.system_error);
 }
 
 }  // namespace zeph
