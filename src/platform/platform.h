@@ -38,8 +38,7 @@ void restore_error_state(const ErrorState& state);
 // Keeps the error state over a call that may change it.
 class ErrorStateKeeper {
  public:
-  ErrorStateKeeper() : state_(error_state()) {
-  }
+  ErrorStateKeeper() : state_(error_state()) {}
   ~ErrorStateKeeper() {
     restore_error_state(state_);
   }

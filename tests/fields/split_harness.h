@@ -14,6 +14,9 @@
 #include <vector>
 
 #include "support/guarded_buffer.h"
+#include "support/refusing_heap.h"
+#include "support/stdout_capture.h"
+#include "support/table.h"
 
 namespace zeph_test {
 
@@ -84,6 +87,54 @@ Fields split_strings(Family family, std::size_t count, const std::string& text, 
   }
   fields.resize(count);
   return fields;
+}
+
+// All forms give the expected fields.
+template <typename Family>
+void expect_split(Family family, std::size_t count, const std::string& text, std::size_t limit,
+                  const Fields& expected) {
+  SCOPED_TRACE("'" + text + "' " + std::to_string(count) + " fields, limit " +
+               std::to_string(limit));
+  const int bound = static_cast<int>(limit);
+  ASSERT_EQ(split_bytes(family, count, GuardedText(text).data(), bound), expected);
+  ASSERT_EQ(split_in_place(family, count, text, bound), expected);
+  ASSERT_EQ(split_strings(family, count, text, bound, text.size() % 6), expected);
+}
+
+// Every text up to 5 bytes over the alphabet, and fields with lengths around the steps of wide
+// instructions, against the plain rule `model(count, text, limit)`.
+template <typename Family, typename Model>
+void expect_rule(Family family, Model model, const std::string& alphabet, char separator) {
+  for (std::size_t count = 2; count <= 5; ++count) {
+    each_text(alphabet, 5, [&](const std::string& text) {
+      for (const std::size_t limit : {1, 2, 3, 9}) {
+        expect_split(family, count, text, limit, model(count, text, limit));
+      }
+    });
+    for (std::size_t size = 1; size < 1200; size < 140 ? ++size : size += 101) {
+      const std::string word = std::string(size, 'w') + separator;
+      const std::string text = word + separator + word + word + "x";
+      for (const std::size_t limit : {size / 2 + 1, size, size + 1, size + 5}) {
+        expect_split(family, count, text, limit, model(count, text, limit));
+      }
+    }
+  }
+}
+
+// A String form requests every work buffer, reports each refused one and keeps its outputs.
+template <typename Family>
+void expect_refusals_reported(Family family, const std::string& text) {
+  for (std::size_t count = 2; count <= 5; ++count) {
+    for (std::size_t first = 1; first <= count; ++first) {
+      const long refused = static_cast<long>(count - first + 1);
+      RefusingHeap heap;
+      heap.refuse_calloc(static_cast<long>(first), refused);
+      StdoutCapture capture;
+      EXPECT_EQ(split_strings(family, count, text, 9), Fields(count, "former content"));
+      EXPECT_EQ(heap.callocs(), static_cast<long>(count));
+      EXPECT_EQ(capture.text(), banners(refused, "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem"));
+    }
+  }
 }
 
 }  // namespace zeph_test

@@ -37,9 +37,9 @@ std::string banner(const std::string& message) {
   return rule + message + rule;
 }
 
-std::string banners(int count, const std::string& message) {
+std::string banners(long count, const std::string& message) {
   std::string all;
-  for (int i = 0; i < count; ++i) all += banner(message);
+  for (long i = 0; i < count; ++i) all += banner(message);
   return all;
 }
 

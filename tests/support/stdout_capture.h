@@ -29,7 +29,7 @@ class StdoutCapture {
 std::string banner(const std::string& message);
 
 // `count` reports in a row.
-std::string banners(int count, const std::string& message);
+std::string banners(long count, const std::string& message);
 
 }  // namespace zeph_test
 
