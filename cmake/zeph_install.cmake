@@ -19,5 +19,9 @@ install(FILES ${PROJECT_BINARY_DIR}/ZephConfig.cmake ${PROJECT_BINARY_DIR}/ZephC
 if(NOT BUILD_SHARED_LIBS)
   set(ZEPH_PC_CFLAGS " -DZEPH_STATIC")
 endif()
+# The paths in zeph.pc start from where it lies, so that the installed tree can be moved.
+set(ZEPH_PC_DIR ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH ZEPH_PC_PREFIX ${ZEPH_PC_DIR} ${CMAKE_INSTALL_PREFIX})
+file(RELATIVE_PATH ZEPH_PC_INCLUDEDIR ${ZEPH_PC_DIR} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
 configure_file(${PROJECT_SOURCE_DIR}/cmake/zeph.pc.in ${PROJECT_BINARY_DIR}/zeph.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/zeph.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -107,7 +107,7 @@ template <typename Family, typename Model>
 void expect_rule(Family family, Model model, const std::string& alphabet, char separator) {
   for (std::size_t count = 2; count <= 5; ++count) {
     each_text(alphabet, 5, [&](const std::string& text) {
-      for (const std::size_t limit : {1, 2, 3, 9}) {
+      for (const std::size_t limit : {1U, 2U, 3U, 9U}) {
         expect_split(family, count, text, limit, model(count, text, limit));
       }
     });
