@@ -183,6 +183,92 @@ ZEPH_API bool Zeph_Compare_L(std::string& a, std::string& b, int n);
 
 /// @}
 
+/// @defgroup slices Slices
+/// A piece of a text by position, between two delimiter bytes, in front of or behind a marker, and
+/// the last component of a path.
+///
+/// The byte text forms end at the first zero byte unless a comment says otherwise. The String forms
+/// go by the stored size: zero bytes are ordinary bytes, in texts and in markers. Where a String is
+/// replaced, it may be the same object as the text.
+/// @{
+
+/// Takes `count` bytes of `text` from index `start` on, or all that is there if that is less; a
+/// negative `count` takes all.
+///
+/// `out` of the byte text form has room for the bytes taken and the terminator; it may be `text`.
+///
+/// Returns true if `start` lies inside the text. At the end of the text or behind it, returns false
+/// and leaves `out` untouched. So does the byte text form for a negative `start`, and reads
+/// nothing; the String form throws `std::out_of_range` ("invalid string position") for it.
+///
+///     char piece[6];
+///     Orbane::Zeph_Get_SubString("hello", 1, 3, piece);  // true, piece holds "ell"
+///     Orbane::Zeph_Get_SubString("hello", 5, 1, piece);  // false
+///@{
+ZEPH_API bool Zeph_Get_SubString(const char* text, int start, int count, char* out);
+ZEPH_API bool Zeph_Get_SubString(const std::string& text, int start, int count, std::string& out);
+///@}
+
+/// Takes the bytes between the first `open` and the first `close` of the whole text. The search for
+/// `close` does not start behind `open`: a `close` in front of the first `open` means false.
+///
+/// Returns true if at least one byte stands between them. Otherwise (one is missing, they are
+/// neighbours, in the wrong order or the same byte) returns false and leaves `out` untouched.
+///
+///     Orbane::Zeph_Get_SubString("at (3)", '(', ')', out);  // true, out holds "3"
+ZEPH_API bool Zeph_Get_SubString(const std::string& text, char open, char close, std::string& out);
+
+/// Takes a slice with fewer questions.
+///
+/// The byte text form copies exactly `count` bytes from `text + start`, zero bytes included, and
+/// writes a terminator to `out[count]`: the caller knows that they are there, and gives `out` room
+/// for `count + 1` bytes that do not overlap them. A negative `start` or `count` copies nothing and
+/// gives the empty text.
+///
+/// The String form cuts the slice at the end of the text, a negative `count` takes all the rest,
+/// and `start` equal to the size gives the empty text. A `start` behind that or below 0 throws
+/// `std::out_of_range` ("invalid string position") and leaves `out` untouched.
+///@{
+ZEPH_API void Zeph_Ext_Str_From_Str(const char* text, int start, int count, char* out);
+ZEPH_API void Zeph_Ext_Str_From_Str(const std::string& text, int start, int count,
+                                    std::string& out);
+///@}
+
+/// Copies what stands behind the last '/' or '\' of `path`, the whole of it if there is neither,
+/// cut at `size` bytes; a `size` below 1 gives the empty text. `out` has room for `size + 1` bytes.
+/// Both separators count on every system. A byte is a byte: the second half of a double-byte
+/// character can be a 0x5C and then counts as a separator.
+///
+///     char name[9];
+///     Orbane::Zeph_Ext_Name_From_FullPath(name, "c:\log/today.txt", 8);  // "today.tx"
+ZEPH_API void Zeph_Ext_Name_From_FullPath(char* out, const char* path, int size);
+
+/// What stands in front of the *first* occurrence of the marker: the text "a=b=c" gives "a" for the
+/// marker '='. A missing marker gives the whole text, an empty one the empty text.
+///
+/// The forms with `out` replace it by the result; it may be `text` or `marker`.
+///@{
+ZEPH_API std::string Zeph_Left(const std::string& text, const std::string& marker);
+ZEPH_API std::string Zeph_Left(const std::string& text, char marker);
+ZEPH_API void Zeph_Left(const std::string& text, const std::string& marker, std::string& out);
+ZEPH_API void Zeph_Left(const std::string& text, char marker, std::string& out);
+///@}
+
+/// What stands behind the *last* occurrence of the marker: the text "a=b=c" gives "c" for the
+/// marker
+/// '='. A missing marker gives the whole text, an empty one the empty text. The last occurrence of
+/// a longer marker is the one that starts last.
+///
+/// The forms with `out` replace it by the result; it may be `text` or `marker`.
+///@{
+ZEPH_API std::string Zeph_Right(const std::string& text, const std::string& marker);
+ZEPH_API std::string Zeph_Right(const std::string& text, char marker);
+ZEPH_API void Zeph_Right(const std::string& text, const std::string& marker, std::string& out);
+ZEPH_API void Zeph_Right(const std::string& text, char marker, std::string& out);
+///@}
+
+/// @}
+
 /// @defgroup fields Fields from the left
 /// A text is cut into a fixed number of fields, two to five, in the order of the outputs.
 ///
@@ -270,6 +356,174 @@ ZEPH_API void Zeph_Seperate_Char(const std::string& text, char delimiter, std::s
                                  std::string& field2, std::string& field3, std::string& field4,
                                  std::string& field5, int limit);
 ///@}
+
+/// @}
+
+/// @defgroup reverse Fields from the right
+/// Fields are cut off the right end of a text: output 1 takes the rightmost one, and the last
+/// output takes the remainder, the head of the text in one piece with all separators in it.
+///
+/// There is no limit: each output has room for what it receives and a terminator, and the length of
+/// the text + 1 bytes is enough for every one. Every output is written on every call. With too few
+/// separators the outputs fill from the right all the same: the head goes to the first output that
+/// is still free, and those behind it become the empty text.
+///
+/// Outputs must not overlap each other. The last output, and it alone, may be the text itself: the
+/// text is then cut in place, or becomes the empty text where its head has gone to an earlier
+/// output. Otherwise the text is not changed.
+/// @{
+
+/// Cuts at blanks; a run of blanks is one separator and belongs to no output. Blanks at the end of
+/// the text make output 1 the empty text; blanks at its start stay in the remainder if all the cuts
+/// were made before them.
+///
+///     char line[] = "door 2 open", state[12];
+///     Orbane::Zeph_Seperate_Reverse(line, state, line);  // "open", line holds "door 2"
+///@{
+ZEPH_API void Zeph_Seperate_Reverse(char* text, char* field1, char* field2);
+ZEPH_API void Zeph_Seperate_Reverse(char* text, char* field1, char* field2, char* field3);
+ZEPH_API void Zeph_Seperate_Reverse(char* text, char* field1, char* field2, char* field3,
+                                    char* field4);
+ZEPH_API void Zeph_Seperate_Reverse(char* text, char* field1, char* field2, char* field3,
+                                    char* field4, char* field5);
+///@}
+
+/// Cuts at each byte equal to `delimiter`; between two in a row stands an empty field. A zero
+/// `delimiter` is never found.
+///
+///     char tail[9], middle[9], head[9];
+///     Orbane::Zeph_Seperate_Char_Reverse(text, ',', tail, middle, head);
+///     // "1,2,3,4" gives "4", "3", "1,2";  "3,4" gives "4", "3", ""
+///@{
+ZEPH_API void Zeph_Seperate_Char_Reverse(char* text, char delimiter, char* field1, char* field2);
+ZEPH_API void Zeph_Seperate_Char_Reverse(char* text, char delimiter, char* field1, char* field2,
+                                         char* field3);
+ZEPH_API void Zeph_Seperate_Char_Reverse(char* text, char delimiter, char* field1, char* field2,
+                                         char* field3, char* field4);
+ZEPH_API void Zeph_Seperate_Char_Reverse(char* text, char delimiter, char* field1, char* field2,
+                                         char* field3, char* field4, char* field5);
+///@}
+
+/// @}
+
+/// @defgroup indexed Fields by index
+/// A byte text taken as a list: from an index to a field, and from a value to its index. Indexes
+/// count from 0.
+///
+/// The two directions are not inverse to each other. The first counts *words*, which are never
+/// empty: separators in a row are one, and those at the ends count for nothing, for a delimiter as
+/// for the blank. The second counts *items*, which are what Zeph_Seperate() and
+/// Zeph_Seperate_Char() cut off the front:
+///
+/// | text          | separator | word 0, word 1 | items                            |
+/// |---------------|-----------|----------------|----------------------------------|
+/// | " red green"  | blank     | "red", "green" | 0: "", 1: "red", 2: "green"      |
+/// | "red,,green"  | ','       | "red", "green" | 0: "red", 1: "", 2: "green"      |
+/// | "red,"        | ','       | "red", ""      | 0: "red" (no item behind the end) |
+/// @{
+
+/// Copies the word number `index`, cut at `limit` bytes, to `out`, which has room for `limit + 1`
+/// bytes and is written on every call. An index below 0 or behind the last word gives the empty
+/// text, and so does a `limit` below 1.
+///
+///     char word[9];
+///     Orbane::Zeph_Seperate_With_Index("red green", word, 1, 8);  // "green"
+///@{
+ZEPH_API void Zeph_Seperate_With_Index(const char* text, char* out, int index, int limit);
+ZEPH_API void Zeph_Seperate_Char_With_Index(const char* text, char delimiter, char* out, int index,
+                                            int limit);
+///@}
+
+/// Returns the index of the first item that equals `value`, or -1 if none does. Items compare as in
+/// Zeph_Compare(), those of the members with `_L` as in Zeph_Compare_L().
+///
+/// Takes two work buffers of the list's length + 1 bytes. If the heap refuses one, each refusal is
+/// reported as "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem", and the result is -1. The time is
+/// proportional to the list's length.
+///
+///     Orbane::Zeph_Seperate_Char_Get_Index("idle,run,down", ',', "run");  // 1
+///@{
+ZEPH_API int Zeph_Seperate_Get_Index(const char* list, const char* value);
+ZEPH_API int Zeph_Seperate_Get_Index_L(const char* list, const char* value);
+ZEPH_API int Zeph_Seperate_Char_Get_Index(const char* list, char delimiter, const char* value);
+ZEPH_API int Zeph_Seperate_Char_Get_Index_L(const char* list, char delimiter, const char* value);
+///@}
+
+/// @}
+
+/// @defgroup lists Lists
+/// A String to a list of Strings and back, for any number of items, by the stored sizes: zero bytes
+/// are ordinary bytes, and so is a zero `delimiter`. The two are not inverse to each other: a split
+/// drops empty items, a join keeps them.
+/// @{
+
+/// Appends the items of `text` to `list`, which keeps what it holds. Every delimiter ends an item;
+/// empty items are dropped wherever they arise. `text` may be an item of the list. Items appended
+/// before an exception stay.
+///
+///     std::vector<std::string> list;
+///     Orbane::Zeph_Split("red,,green,", ',', list);  // "red", "green"
+ZEPH_API void Zeph_Split(const std::string& text, char delimiter, std::vector<std::string>& list);
+
+/// Joins all items, the empty ones too, with one delimiter between two of them. The form with `out`
+/// clears it first; if it is an item of the list itself, that item joins as empty.
+///@{
+ZEPH_API std::string Zeph_Join(const std::vector<std::string>& list, char delimiter);
+ZEPH_API void Zeph_Join(const std::vector<std::string>& list, char delimiter, std::string& out);
+///@}
+
+/// @}
+
+/// @defgroup enclosures Enclosing marks
+/// Marks at the two ends of a text are taken off, at most one byte at each end. Marks inside stay,
+/// and so does a second mark behind the first. Nothing pairs the marks: '(' and '>' go as well
+/// together as '(' and ')'.
+///
+/// The byte text forms end at the first zero byte and work in place; bytes behind the new
+/// terminator may change. The String forms go by the stored size and keep the capacity.
+/// @{
+
+/// Takes the double quotes off a quoted text. The four forms differ in how strictly the two ends
+/// belong together:
+///
+/// | form                 | one end quoted         | result                               |
+/// |----------------------|------------------------|--------------------------------------|
+/// | byte text, in place  | unchanged              |                                      |
+/// | byte text to `out`   | false, `out` untouched | true if both ends were quoted        |
+/// | String, in place     | that quote goes        |                                      |
+/// | String to `out`      | that quote goes, false | true if both quotes were taken off   |
+///
+/// `limit` bounds the bytes between the quotes; a longer text is refused with false and `out`
+/// untouched. That `out` has room for `limit + 1` bytes. The String `out` is written whatever the
+/// result is, and may be `text`. A text of one double quote keeps it in the byte text forms (false)
+/// and loses it in the String forms (false).
+///
+///     char name[9];
+///     Orbane::Zeph_String_Check("\"A 17\"", 8, name);  // true, name holds "A 17"
+///@{
+ZEPH_API void Zeph_String_Check(char* text);
+ZEPH_API bool Zeph_String_Check(const char* text, int limit, char* out);
+ZEPH_API void Zeph_String_Check(std::string& text);
+ZEPH_API bool Zeph_String_Check(const std::string& text, std::string& out);
+///@}
+
+/// Takes a double or a single quote off each end, each end by itself. A text of one quote becomes
+/// the empty text.
+///@{
+ZEPH_API void Zeph_Remove_QuoteMark(std::string& text);
+ZEPH_API void Zeph_Remove_QuoteMark(char* text);
+///@}
+
+/// Takes an opening bracket, one of "([{<", off the start and a closing one, one of ")]}>", off the
+/// end, each end by itself. A text of one opening bracket becomes the empty text, a text of one
+/// closing bracket stays.
+///@{
+ZEPH_API void Zeph_Remove_Bracket(std::string& text);
+ZEPH_API void Zeph_Remove_Bracket(char* text);
+///@}
+
+/// Takes the byte `mark` off each end, each end by itself. A text of one mark becomes empty.
+ZEPH_API void Zeph_Remove_HeadTail(std::string& text, char mark);
 
 /// @}
 

@@ -21,6 +21,9 @@ constexpr std::size_t field_limit(int limit) {
   return limit < 0 ? 0 : static_cast<std::size_t>(limit);
 }
 
+// What several separators in a row do.
+enum class SeparatorRun { one_separator, each_cuts };
+
 // Copies the field at `text`, up to `delimiter` or the end, cut at `limit` bytes. Returns where the
 // field ends in the text.
 const char* put_field(char* out, const char* text, char delimiter, std::size_t limit);

@@ -1,0 +1,67 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "support/refusing_heap.h"
+#include "support/table.h"
+#include "zeph.h"
+
+using namespace zeph_test;
+using List = std::vector<std::string>;
+
+TEST(Lists, SplitAgainstGetline) {
+  each_text(std::string(",\0a", 3), 7, [](const std::string& text) {
+    for (const char delimiter : {',', '\0'}) {
+      List expected = {"held"}, list = {"held"};
+      std::istringstream stream(text);
+      for (std::string item; std::getline(stream, item, delimiter);) {
+        if (!item.empty()) expected.push_back(item);
+      }
+      Orbane::Zeph_Split(text, delimiter, list);
+      ASSERT_EQ(list, expected) << text;
+    }
+  });
+  List list = {"x", "a,b,,c,d,e"};
+  list.shrink_to_fit();
+  Orbane::Zeph_Split(list[1], ',', list);
+  EXPECT_EQ(list, (List{"x", "a,b,,c,d,e", "a", "b", "c", "d", "e"})) << "its own item";
+}
+
+TEST(Lists, JoinPutsTheDelimiterBetweenItems) {
+  const struct {
+    const char* why;
+    List list;
+    const char* joined;
+  } rows[] = {
+      {"none", {}, ""},
+      {"one", {"red"}, "red"},
+      {"two", {"red", "green"}, "red,green"},
+      {"empty first", {"", "red"}, ",red"},
+      {"empty last", {"red", ""}, "red,"},
+      {"one empty", {""}, ""},
+      {"two empty", {"", ""}, ","},
+  };
+  each_row(rows, [](const auto& row) {
+    std::string out = "former";
+    Orbane::Zeph_Join(row.list, ',', out);
+    EXPECT_EQ(out, row.joined);
+    EXPECT_EQ(Orbane::Zeph_Join(row.list, ','), row.joined);
+  });
+  List own = {"a", "b", "c"};
+  Orbane::Zeph_Join(own, '\0', own[1]);
+  EXPECT_EQ(own[1], std::string("a\0\0c", 4)) << "an output that is an item joins as empty";
+}
+
+TEST(Lists, ItemsBeforeAFailureStay) {
+  REQUIRE_REFUSING_HEAP;
+  const std::string item(40, 'i');
+  const std::string text = item + ',' + item + ',' + item;
+  List list;
+  list.reserve(3);
+  RefusingHeap heap;
+  heap.refuse_new(2);
+  EXPECT_THROW(Orbane::Zeph_Split(text, ',', list), std::bad_alloc);
+  EXPECT_EQ(list, List{item});
+}

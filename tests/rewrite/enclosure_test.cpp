@@ -1,0 +1,110 @@
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <string>
+
+#include "support/guarded_buffer.h"
+#include "support/table.h"
+#include "zeph.h"
+
+using namespace zeph_test;
+
+TEST(Enclosure, EachEndByItself) {
+  const struct {
+    const char* why;
+    const char* text;
+    const char* quotes;    // Zeph_Remove_QuoteMark
+    const char* brackets;  // Zeph_Remove_Bracket
+    const char* mark;      // Zeph_Remove_HeadTail with 'x'
+  } rows[] = {
+      {"empty", "", "", "", ""},
+      {"no marks", "ab", "ab", "ab", "ab"},
+      {"marks inside stay", "a\"(x)'b", "a\"(x)'b", "a\"(x)'b", "a\"(x)'b"},
+      {"nothing pairs the quotes", "\"ab'", "ab", "\"ab'", "\"ab'"},
+      {"head alone", "'ab", "ab", "'ab", "'ab"},
+      {"one byte at each end", "\"\"ab\"\"", "\"ab\"", "\"\"ab\"\"", "\"\"ab\"\""},
+      {"one quote", "\"", "", "\"", "\""},
+      {"two quotes", "''", "", "''", "''"},
+      {"nothing pairs the brackets", "<ab]", "<ab]", "ab", "<ab]"},
+      {"outer brackets", "((ab))", "((ab))", "(ab)", "((ab))"},
+      {"tail alone", "ab}", "ab}", "ab", "ab}"},
+      {"square", "[ab)", "[ab)", "ab", "[ab)"},
+      {"curly", "{ab>", "{ab>", "ab", "{ab>"},
+      {"one opening bracket", "(", "(", "", "("},
+      {"one closing bracket stays", ")", ")", ")", ")"},
+      {"a closing bracket is no head", ")ab(", ")ab(", ")ab(", ")ab("},
+      {"a named mark", "xabx", "xabx", "xabx", "ab"},
+      {"one named mark", "x", "x", "x", ""},
+      {"two named marks", "xx", "xx", "xx", ""},
+  };
+  each_row(rows, [](const auto& row) {
+    std::string quotes = row.text, brackets = row.text, mark = row.text;
+    Orbane::Zeph_Remove_QuoteMark(quotes);
+    Orbane::Zeph_Remove_Bracket(brackets);
+    Orbane::Zeph_Remove_HeadTail(mark, 'x');
+    EXPECT_EQ(quotes, row.quotes);
+    EXPECT_EQ(brackets, row.brackets);
+    EXPECT_EQ(mark, row.mark);
+    GuardedText quote_bytes(row.text), bracket_bytes(row.text);
+    Orbane::Zeph_Remove_QuoteMark(quote_bytes.data());
+    Orbane::Zeph_Remove_Bracket(bracket_bytes.data());
+    EXPECT_STREQ(quote_bytes.data(), row.quotes);
+    EXPECT_STREQ(bracket_bytes.data(), row.brackets);
+  });
+  std::string zero("x\0x", 3);
+  Orbane::Zeph_Remove_HeadTail(zero, 'x');
+  EXPECT_EQ(zero, std::string("\0", 1)) << "by the stored size";
+  char line[] = "(ab)";
+  Orbane::Zeph_Remove_Bracket(line);
+  EXPECT_EQ(std::string(line, 5), std::string("ab\0\0\0", 5)) << "the tail is zero first";
+}
+
+TEST(Enclosure, StringCheckDiffersBetweenItsForms) {
+  const struct {
+    const char* why;
+    const char* text;
+    const char* bytes;   // byte text, in place
+    const char* string;  // String, in place and to an output
+    bool both;
+  } rows[] = {
+      {"both ends", "\"ab\"", "ab", "ab", true},
+      {"head", "\"ab", "\"ab", "ab", false},
+      {"tail", "ab\"", "ab\"", "ab", false},
+      {"none", "ab", "ab", "ab", false},
+      {"two quotes", "\"\"", "", "", true},
+      {"one quote", "\"", "\"", "", false},
+      {"empty", "", "", "", false},
+      {"single quotes", "'ab'", "'ab'", "'ab'", false},
+  };
+  each_row(rows, [](const auto& row) {
+    GuardedText bytes(row.text);
+    Orbane::Zeph_String_Check(bytes.data());
+    EXPECT_STREQ(bytes.data(), row.bytes);
+    std::string string = row.text, out = "former", same = row.text;
+    Orbane::Zeph_String_Check(string);
+    EXPECT_EQ(string, row.string);
+    EXPECT_EQ(Orbane::Zeph_String_Check(std::string(row.text), out), row.both);
+    EXPECT_EQ(out, row.string);
+    EXPECT_EQ(Orbane::Zeph_String_Check(same, same), row.both);
+    EXPECT_EQ(same, row.string);
+    GuardedBuffer room(3);
+    EXPECT_EQ(Orbane::Zeph_String_Check(GuardedText(row.text).data(), 2, room.data()), row.both);
+    if (row.both) {
+      EXPECT_STREQ(room.data(), row.bytes);
+    } else {
+      EXPECT_TRUE(room.untouched());
+    }
+  });
+}
+
+TEST(Enclosure, LimitIsOnTheBytesBetweenTheQuotes) {
+  const char text[] = "\"abc\"";
+  GuardedBuffer room(4);
+  for (const int limit : {2, 0, -1, INT_MIN}) {
+    EXPECT_FALSE(Orbane::Zeph_String_Check(text, limit, room.data())) << limit;
+  }
+  EXPECT_TRUE(room.untouched());
+  EXPECT_TRUE(Orbane::Zeph_String_Check(text, 3, room.data()));
+  EXPECT_STREQ(room.data(), "abc");
+  EXPECT_TRUE(Orbane::Zeph_String_Check(text, INT_MAX, room.data()));
+}
