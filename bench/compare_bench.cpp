@@ -62,7 +62,7 @@ void add_fold_rows(Pair& t, const std::string& input) {
 }  // namespace
 
 void register_compare_rows() {
-  for (const std::size_t size : {16, 64, 4096}) {
+  for (const std::size_t size : {16U, 64U, 4096U}) {
     add_exact_rows(keep(make_pair(size, false)), size_text(size) + ", equal");
     add_fold_rows(keep(make_pair(size, true)), size_text(size) + ", other case");
   }
