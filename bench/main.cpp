@@ -8,6 +8,7 @@
 
 namespace zeph_bench {
 
+void register_cipher_rows();
 void register_compare_rows();
 void register_fields_rows();
 
@@ -19,6 +20,7 @@ struct Family {
 };
 
 constexpr Family families[] = {
+    {"cipher", register_cipher_rows},
     {"compare", register_compare_rows},
     {"fields", register_fields_rows},
 };

@@ -527,6 +527,75 @@ ZEPH_API void Zeph_Remove_HeadTail(std::string& text, char mark);
 
 /// @}
 
+/// @defgroup cipher Sealed texts
+/// A byte text sealed into a binary record with AES, and brought back.
+///
+/// What it is good for, said plainly: it keeps a text from being read in passing, by those who do
+/// not have the key. Each block of 16 bytes is enciphered by itself (AES as in FIPS 197, mode ECB),
+/// so that equal blocks of a text show as equal blocks of the record. Nothing protects a record
+/// from change: one that was damaged, cut together from others or sealed under another key opens
+/// without complaint, with meaningless bytes in it. Until Zeph_Encrypt_Reset_Key() is called, the
+/// key is a built-in one, the same in every copy of the library, and so no secret at all.
+///
+/// A record of a text of n bytes, n up to 4,294,967,280:
+///
+/// | Offset | Size | Content                                                                      |
+/// |--------|------|------------------------------------------------------------------------------|
+/// | 0      | 4    | L, n rounded up to a multiple of 16; unsigned, little-endian everywhere      |
+/// | 4      | 4    | P, the number of pad bytes, L - n, 0 to 15; unsigned, little-endian          |
+/// | 8      | 8    | reserved: neither written nor read, they stay what the caller's buffer held  |
+/// | 16     | L    | the text in blocks of 16 bytes, the last one filled up with 'X', enciphered  |
+///
+/// A record is raw binary with zero bytes anywhere, and 16 + L bytes long. The functions return L,
+/// so that a caller who stores or sends the record adds the 16.
+///
+/// All three functions share one key and one block under work: no two calls may run at once, on any
+/// threads, not even with equal keys. What they keep outlives the call: the key and the last block
+/// lie in the library's memory until the process ends; working copies of the key are wiped.
+///
+/// Timing: on x86 processors with AES instructions the time of a call depends on the length of the
+/// text alone. Everywhere else, and in Zeph_Encrypt_Reset_Key() on all processors, bytes of the key
+/// and the text are looked up in tables of 256 bytes; nothing branches on them, but who shares the
+/// processor's cache may learn of them from the time that it takes.
+///
+///     unsigned char key[16] = {0x4B, 0x00, 0x91};  // zero bytes are bytes of the key
+///     Orbane::Zeph_Encrypt_Reset_Key(16, key);
+///     char text[] = "recipe 17";
+///     char record[16 + 16] = {};
+///     char back[16 + 1] = {};                      // zeros: see Zeph_Decrypt()
+///     Orbane::Zeph_Encrypt(text, record);          // 16, which is L
+///     Orbane::Zeph_Decrypt(record, back);          // 16, back holds "recipe 17"
+/// @{
+
+/// Takes `key`, which is `size` bytes whatever their values, as the key of all later calls, until
+/// the next reset or the end of the process. `size` is 16, 24 or 32; with any other the key in
+/// force stays, and `key` is not read. The default key comes back only by passing it: the 13
+/// characters "QX-LM_SEALKEY" and 19 zero bytes.
+ZEPH_API void Zeph_Encrypt_Reset_Key(unsigned long size, unsigned char* key);
+
+/// Seals the byte text `text` into `record`, which has room for 16 + L bytes.
+///
+/// The empty text makes a record without blocks: 8 bytes are written and the result is 0. Returns
+/// L. If `record` is NULL or the text is longer than a record can tell, returns 0 and writes
+/// nothing. `text` may be `record + 16`, so that it is sealed in its place; otherwise they do not
+/// overlap.
+ZEPH_API unsigned long Zeph_Encrypt(char* text, char* record);
+
+/// Opens `record` into `text`, which has room for L bytes: the bytes of the text, then P zero
+/// bytes.
+///
+/// Returns L, not the length of the text, which is L - P. Two texts come back without a terminator:
+/// one that fills its last block, since P is 0, and the empty one, for which nothing is written at
+/// all. Who reads the result as a byte text gives room for L + 1 bytes and zeroes them beforehand.
+///
+/// Returns 0 and writes nothing if `text` is NULL, if L is 0 or no multiple of 16, or if P is above
+/// 15; no sealed text gives such a record but the empty one. L is believed: who opens a record from
+/// elsewhere holds it against the record's size first. `text` may be `record + 16`, so that it is
+/// opened in its place; otherwise they do not overlap.
+ZEPH_API unsigned long Zeph_Decrypt(char* record, char* text);
+
+/// @}
+
 }  // namespace Orbane
 
 #endif  // ZEPH_H

@@ -1,0 +1,100 @@
+// Sealing and opening under a 256-bit key against the same blocks done by OpenSSL, which holds its
+// key ready in a context of its own.
+#include <memory>
+#include <string>
+
+#include "bench.h"
+#include "zeph.h"
+
+#if ZEPH_BENCH_HAS_OPENSSL
+#include <openssl/evp.h>
+#endif
+
+namespace zeph_bench {
+namespace {
+
+struct Sealing {
+  std::string text, record, back;
+
+  explicit Sealing(std::size_t size) : text(size, 't'), record(16 + size, '\0'), back(size, '\0') {
+    Orbane::Zeph_Encrypt(&text[0], &record[0]);
+  }
+
+  unsigned char* blocks() {
+    return reinterpret_cast<unsigned char*>(&record[16]);
+  }
+};
+
+std::string take(std::string& output) {
+  std::string all = output;
+  output.assign(output.size(), '#');
+  return all;
+}
+
+#if ZEPH_BENCH_HAS_OPENSSL
+class OpensslCipher {
+ public:
+  OpensslCipher(const unsigned char* key, bool encrypts) : context_(EVP_CIPHER_CTX_new()) {
+    EVP_CipherInit_ex(context_.get(), EVP_aes_256_ecb(), nullptr, key, nullptr, encrypts ? 1 : 0);
+    EVP_CIPHER_CTX_set_padding(context_.get(), 0);
+  }
+  unsigned long run(const void* in, unsigned char* out, std::size_t size) {
+    int written = 0;
+    EVP_CipherUpdate(context_.get(), out, &written, static_cast<const unsigned char*>(in),
+                     static_cast<int>(size));
+    return static_cast<unsigned long>(written);
+  }
+
+ private:
+  struct Free {
+    void operator()(EVP_CIPHER_CTX* context) const {
+      EVP_CIPHER_CTX_free(context);
+    }
+  };
+  std::unique_ptr<EVP_CIPHER_CTX, Free> context_;
+};
+#endif
+
+void add_peer(Row& added, Sealing& s, const unsigned char* key, bool encrypts) {
+#if ZEPH_BENCH_HAS_OPENSSL
+  auto& cipher = keep(OpensslCipher(key, encrypts));
+  if (encrypts) {
+    added.peer("EVP ECB",
+               [&cipher, &s] { return cipher.run(&s.text[0], s.blocks(), s.text.size()); });
+  } else {
+    auto* const back = reinterpret_cast<unsigned char*>(&s.back[0]);
+    added.peer("EVP ECB",
+               [&cipher, &s, back] { return cipher.run(s.blocks(), back, s.back.size()); });
+  }
+#else
+  static_cast<void>(s), static_cast<void>(key), static_cast<void>(encrypts);
+  added.missing_peer("OpenSSL");
+#endif
+}
+
+void add_rows(Sealing& s, const std::string& input, const unsigned char* key) {
+  Row& seal = row("cipher", "Zeph_Encrypt", input, s.text.size());
+  seal.outputs([&s] { return take(s.record).substr(16); });
+  seal.zeph([&s] { return Orbane::Zeph_Encrypt(&s.text[0], &s.record[0]); });
+  add_peer(seal, s, key, true);
+
+  Orbane::Zeph_Encrypt(&s.text[0], &s.record[0]);
+  Row& open = row("cipher", "Zeph_Decrypt", input, s.back.size());
+  open.outputs([&s] { return take(s.back); });
+  open.zeph([&s] { return Orbane::Zeph_Decrypt(&s.record[0], &s.back[0]); });
+  add_peer(open, s, key, false);
+}
+
+}  // namespace
+
+void register_cipher_rows() {
+  unsigned char key[32] = {7, 0, 77};
+  Orbane::Zeph_Encrypt_Reset_Key(sizeof key, key);
+  for (const std::size_t size : {16U, 64U, 1024U, 65536U}) {
+    add_rows(keep(Sealing(size)),
+             size < 1024 ? std::to_string(size) + " bytes" : std::to_string(size / 1024) + " KiB",
+             key);
+  }
+}
+
+}  // namespace zeph_bench

@@ -1,0 +1,124 @@
+// AES by the processor's AES instructions. One round of a block waits for the one before, so
+// several blocks are in flight at once.
+#include "cipher/aes_x86.h"
+
+#include "cipher/aes_paths.h"
+
+namespace zeph {
+namespace {
+
+// The directions: which round keys, which instructions.
+
+class Encipher {
+ public:
+  [[gnu::target("aes")]] static __m128i round(__m128i block, __m128i key) {
+    return _mm_aesenc_si128(block, key);
+  }
+  [[gnu::target("aes")]] static __m128i last_round(__m128i block, __m128i key) {
+    return _mm_aesenclast_si128(block, key);
+  }
+  [[gnu::target("aes")]] __m128i outer_key(int i) const {
+    return load_bytes(g_aes.w + 16 * i);
+  }
+  [[gnu::target("aes")]] __m128i inner_key(int i) const {
+    return outer_key(i);
+  }
+};
+
+class Decipher {
+ public:
+  [[gnu::target("aes")]] static __m128i round(__m128i block, __m128i key) {
+    return _mm_aesdec_si128(block, key);
+  }
+  [[gnu::target("aes")]] static __m128i last_round(__m128i block, __m128i key) {
+    return _mm_aesdeclast_si128(block, key);
+  }
+};
+
+// Turns each round key when it is due: the better way for a few blocks.
+class DecipherFew : public Decipher {
+ public:
+  [[gnu::target("aes")]] __m128i outer_key(int i) const {
+    return load_bytes(g_aes.w + 16 * (g_aes.Nr - i));
+  }
+  [[gnu::target("aes")]] __m128i inner_key(int i) const {
+    return _mm_aesimc_si128(outer_key(i));
+  }
+};
+
+// Turns all round keys first.
+class DecipherMany : public Decipher {
+ public:
+  [[gnu::target("aes")]] __m128i outer_key(int i) const {
+    return load_bytes(keys_.bytes() + 16 * i);
+  }
+  [[gnu::target("aes")]] __m128i inner_key(int i) const {
+    return outer_key(i);
+  }
+
+ private:
+  InverseKeys keys_;
+};
+
+template <std::size_t lanes, typename Direction>
+[[gnu::target("aes")]] void run_lanes(const Direction& direction, const unsigned char* in,
+                                      unsigned char* out) {
+  const int rounds = g_aes.Nr;
+  __m128i blocks[lanes];
+  __m128i key = direction.outer_key(0);
+  for (std::size_t i = 0; i < lanes; ++i) {
+    blocks[i] = _mm_xor_si128(load_bytes(in + i * block_size), key);
+  }
+  for (int r = 1; r < rounds; ++r) {
+    key = direction.inner_key(r);
+    for (__m128i& block : blocks) block = Direction::round(block, key);
+  }
+  key = direction.outer_key(rounds);
+  for (std::size_t i = 0; i < lanes; ++i) {
+    store_bytes(out + i * block_size, Direction::last_round(blocks[i], key));
+  }
+}
+
+// Leaves a finished block in the state of `g_aes`: it runs down the columns, the state row by row.
+[[gnu::target("aes")]] void keep_state(const unsigned char* block) {
+  __m128i bytes = load_bytes(block);
+  bytes = _mm_unpacklo_epi8(bytes, _mm_srli_si128(bytes, 8));  // each byte and the eighth from it
+  bytes = _mm_unpacklo_epi8(bytes, _mm_srli_si128(bytes, 8));  // and so each and the fourth
+  store_bytes(g_aes.state, bytes);
+}
+
+constexpr std::size_t most_lanes = 8;
+
+template <typename Direction>
+[[gnu::target("aes")]] void run_blocks(const Direction& direction, const unsigned char* in,
+                                       unsigned char* out, std::size_t count) {
+  const auto step = [&](std::size_t blocks) {
+    in += blocks * block_size;
+    out += blocks * block_size;
+  };
+  for (; count >= most_lanes; count -= most_lanes) {
+    run_lanes<most_lanes>(direction, in, out);
+    step(most_lanes);
+  }
+  if (count & 4) run_lanes<4>(direction, in, out), step(4);
+  if (count & 2) run_lanes<2>(direction, in, out), step(2);
+  if (count & 1) run_lanes<1>(direction, in, out), step(1);
+  keep_state(out - block_size);
+}
+
+}  // namespace
+
+void encrypt_blocks_x86(const unsigned char* in, unsigned char* out, std::size_t count) {
+  if (count != 0) run_blocks(Encipher(), in, out, count);
+}
+
+void decrypt_blocks_x86(const unsigned char* in, unsigned char* out, std::size_t count) {
+  if (count > most_lanes) {
+    const DecipherMany direction;
+    run_blocks(direction, in, out, count);
+  } else if (count != 0) {
+    run_blocks(DecipherFew(), in, out, count);
+  }
+}
+
+}  // namespace zeph
