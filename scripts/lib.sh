@@ -6,13 +6,17 @@ as_root() {
   if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
 
+# Asks once whether that will work; sudo says itself why not.
+can_be_root() {
+  [ "$(id -u)" -eq 0 ] || { command -v sudo >/dev/null && sudo true; }
+}
+
 # Installs the named packages. An index that changes on the mirror while it is being read makes
 # apt-get fail, and so does another apt-get at work: hence a fresh index and a new try.
 # Standard output stays free for the script; on failure, one line says what is missing.
 install_packages() {
   local try log
-  if ! command -v apt-get >/dev/null ||
-    { [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null; }; then
+  if ! command -v apt-get >/dev/null || ! can_be_root; then
     echo "missing here, please install: $*" >&2
     return 1
   fi
