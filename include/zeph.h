@@ -474,6 +474,68 @@ ZEPH_API void Zeph_Join(const std::vector<std::string>& list, char delimiter, st
 
 /// @}
 
+/// @defgroup replace Replace and remove
+/// Bytes and pieces of a text are replaced or cut out in place, byte by byte exactly.
+///
+/// The forms differ in where the search goes on after a change, and so in their results:
+///
+/// | form                              | after a change         | "aaabb", "ab" becomes "b" |
+/// |-----------------------------------|------------------------|---------------------------|
+/// | replace a piece of a String       | behind the replacement | "aabb"                    |
+/// | replace a piece of a byte text    | from the start again   | "bb"                      |
+/// | remove a piece, both kinds        | from the start again   |                           |
+///
+/// Where it starts again, no occurrence is left in the end, also none that the changes themselves
+/// have formed: removing "ab" from "aabb" leaves nothing. The time is proportional to the length
+/// all the same: only the bytes around a change are searched again.
+///
+/// The byte text forms end at the first zero byte, of patterns and replacements too, which must not
+/// lie inside the text. The String forms go by the stored sizes, zero bytes are ordinary bytes, and
+/// pattern and replacement may be the text itself, which counts as it was at the start. An empty
+/// pattern changes nothing. Nothing is reported.
+/// @{
+
+/// Every byte equal to `find` becomes `replacement`. The byte text form works on the length that it
+/// finds at the start, and returns `text`: a zero `find` matches nothing there, and a zero
+/// `replacement` ends the text at the first match while the rest stays behind it, replaced too.
+///@{
+ZEPH_API const char* Zeph_Replace(char* text, char find, char replacement);
+ZEPH_API void Zeph_Replace(std::string& text, char find, char replacement);
+///@}
+
+/// Every occurrence of `pattern` becomes `replacement`; what is inserted is not searched again.
+///
+///     std::string text = "a.b.c";
+///     Orbane::Zeph_Replace(text, ".", " . ");  // "a . b . c"
+ZEPH_API void Zeph_Replace(std::string& text, const std::string& pattern,
+                           const std::string& replacement);
+
+/// Every occurrence of `pattern` becomes `replacement`, from the start of the text again after each
+/// change.
+///
+/// `text` has room for the longest text that arises at any step and a terminator; with the longer
+/// replacement that is the final one. No more than that is ever written.
+///
+/// Pairs that might never end are bounded, and leave the text as it was: a replacement that
+/// contains the pattern; a longer replacement whose changes form new occurrences more than the
+/// text's length + 1,024 times; one of the same length that does so more than
+/// 64 * (length + 1,024) times. Where a replacement that is not shorter than the pattern could form
+/// new occurrences, the work is done in a heap block; if the heap refuses it, the text stays as it
+/// was. All other pairs need no heap.
+ZEPH_API void Zeph_Replace(char* text, const char* pattern, const char* replacement);
+
+/// Every occurrence of `pattern` is cut out, from the start of the text again after each cut. The
+/// String keeps its capacity.
+///@{
+ZEPH_API void Zeph_Remove(std::string& text, const std::string& pattern);
+ZEPH_API void Zeph_Remove(char* text, const char* pattern);
+///@}
+
+/// Every byte equal to `byte` is cut out. A zero `byte` cuts nothing out: zero bytes stay.
+ZEPH_API void Zeph_Remove(std::string& text, char byte);
+
+/// @}
+
 /// @defgroup enclosures Enclosing marks
 /// Marks at the two ends of a text are taken off, at most one byte at each end. Marks inside stay,
 /// and so does a second mark behind the first. Nothing pairs the marks: '(' and '>' go as well

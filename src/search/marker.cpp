@@ -1,6 +1,7 @@
 // What stands in front of the first and behind the last occurrence of a marker.
 #include <string_view>
 
+#include "scan/find_needle.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -13,7 +14,7 @@ View view_of(const char& byte) {
 }
 
 View left_of(View text, View marker) {
-  return text.substr(0, text.find(marker));
+  return text.substr(0, find_needle(text, marker));
 }
 
 View right_of(View text, View marker) {
