@@ -44,6 +44,13 @@
 #define ZEPH_API __attribute__((visibility("default")))
 #endif
 
+/// Lets compilers that can check a printf format do so.
+#if defined(__GNUC__) && !defined(_WIN32)
+#define ZEPH_FORMAT(text, rest) __attribute__((__format__(__printf__, text, rest)))
+#else
+#define ZEPH_FORMAT(text, rest)
+#endif
+
 /// Everything that Zeph exports.
 namespace Orbane {
 
@@ -586,6 +593,63 @@ ZEPH_API void Zeph_Remove_Bracket(char* text);
 
 /// Takes the byte `mark` off each end, each end by itself. A text of one mark becomes empty.
 ZEPH_API void Zeph_Remove_HeadTail(std::string& text, char mark);
+
+/// @}
+
+/// @defgroup compose Composition
+/// Texts put together: appended, printed, and joined half by half.
+/// @{
+
+/// Appends to the byte text `text` and returns `text`, whose room is the length of the result + 1
+/// bytes. It adds
+/// - a byte text, which may lie inside `text`: all of it;
+/// - a byte: that byte, nothing for a zero byte;
+/// - an `int`: decimal digits, behind a '-' if it is negative, at most 11 bytes;
+/// - a `float` or a `double`: as "%f" prints it, with six digits behind the decimal point of the
+///   process's locale and no exponent, at most 47 and 317 bytes.
+///
+///     char line[32] = "slot ";
+///     Orbane::Zeph_Cat(Orbane::Zeph_Cat(line, 7), ": ready");  // "slot 7: ready"
+///@{
+ZEPH_API char* Zeph_Cat(char* text, const char* more);
+ZEPH_API char* Zeph_Cat(char* text, char byte);
+ZEPH_API char* Zeph_Cat(char* text, int value);
+ZEPH_API char* Zeph_Cat(char* text, float value);
+ZEPH_API char* Zeph_Cat(char* text, double value);
+///@}
+
+/// Prints a format of the `printf` family into a new String. `size` is the size of a buffer,
+/// terminator included, and no count of arguments: the text is cut at `size - 1` bytes without a
+/// report, and ends at its first zero byte. A `size` of 0 or 1 gives the empty text, a negative one
+/// throws `std::bad_alloc`. Follows the process's locale.
+///
+///     Orbane::Zeph_Splicing(64, "%s=%d", "speed", 12);  // "speed=12"
+ZEPH_API std::string Zeph_Splicing(int size, const char* format, ...) ZEPH_FORMAT(2, 3);
+
+/// Joins two to six alarm texts into the first one. An alarm text has two halves around its first
+/// '|'; further ones belong to the second half. The result is all first halves with a blank between
+/// two of them, a '|', and all second halves in the same way; the blanks come also around an empty
+/// half. A text without a second half stands with its first half on both sides; an empty first half
+/// stays empty.
+///
+/// The result is cut at 511 bytes, wherever that falls: `text1` has room for it and its terminator,
+/// 512 bytes at most. All texts are read before it is written, so that they may overlap. Halves of
+/// any length are safe. No heap is used.
+///
+///     char text[512] = "DOOR OPEN|door open";
+///     Orbane::Zeph_Strcat_Alarm_Append_Text(text, "CHAMBER 2");
+///     // "DOOR OPEN CHAMBER 2|door open CHAMBER 2"
+///@{
+ZEPH_API void Zeph_Strcat_Alarm_Append_Text(char* text1, const char* text2);
+ZEPH_API void Zeph_Strcat_Alarm_Append_Text(char* text1, const char* text2, const char* text3);
+ZEPH_API void Zeph_Strcat_Alarm_Append_Text(char* text1, const char* text2, const char* text3,
+                                            const char* text4);
+ZEPH_API void Zeph_Strcat_Alarm_Append_Text(char* text1, const char* text2, const char* text3,
+                                            const char* text4, const char* text5);
+ZEPH_API void Zeph_Strcat_Alarm_Append_Text(char* text1, const char* text2, const char* text3,
+                                            const char* text4, const char* text5,
+                                            const char* text6);
+///@}
 
 /// @}
 

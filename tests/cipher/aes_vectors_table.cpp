@@ -1,6 +1,6 @@
-// Known answers for AES: Appendix C of FIPS 197, and from the ECB sets of NIST's AESAVS all of GFSbox
-// and KeySbox, and of VarKey and VarTxt the first row and those whose run of ones ends with a byte. The
-// number behind a set is the row's number there. 208 rows.
+// Known answers for AES: Appendix C of FIPS 197, and from the ECB sets of NIST's AESAVS all of
+// GFSbox and KeySbox, and of VarKey and VarTxt the first row and those whose run of ones ends with
+// a byte. The number behind a set is the row's number there. 208 rows.
 #include "cipher/aes_vectors.h"
 
 namespace zeph_test {

@@ -1,0 +1,92 @@
+// Texts and numbers appended to a byte text, and formats printed into a String.
+#include <charconv>
+#include <cstdarg>
+#include <cstdio>
+#include <cstring>
+#include <new>
+
+#include "frame/fixed_buffers.h"
+#include "frame/formatted_text.h"
+#include "platform/platform.h"
+#include "zeph.h"
+
+namespace zeph {
+namespace {
+
+// Appends `size` bytes and a terminator.
+char* append(char* text, const char* bytes, std::size_t size) {
+  put_text(text + std::strlen(text), bytes, size);
+  return text;
+}
+
+int print(char* buffer, std::size_t size, const char* format, std::va_list arguments) {
+  const ErrorStateKeeper keeper;
+  std::va_list copy;
+  va_copy(copy, arguments);
+  const int length = std::vsnprintf(buffer, size, format, copy);
+  va_end(copy);
+  return length;
+}
+
+// The printed text, cut to a buffer of `size` bytes, up to its first zero byte. Short texts are
+// printed once and take no heap but the result's; a longer one is printed again into the result.
+std::string splice(std::size_t size, const char* format, std::va_list arguments) {
+  char near[512] = "";
+  const std::size_t room = size < sizeof near ? size : sizeof near;
+  const int length = print(near, room, format, arguments);
+  if (length < 0 || static_cast<std::size_t>(length) < room || room == size) {
+    return std::string(near, strnlen(near, room - 1));
+  }
+  const auto whole = static_cast<std::size_t>(length);
+  std::string text(whole < size ? whole : size - 1, '\0');
+  print(text.data(), text.size() + 1, format, arguments);
+  text.resize(std::strlen(text.c_str()));
+  return text;
+}
+
+}  // namespace
+}  // namespace zeph
+
+namespace Orbane {
+
+char* Zeph_Cat(char* text, const char* more) {
+  return zeph::append(text, more, std::strlen(more));
+}
+
+char* Zeph_Cat(char* text, char byte) {
+  return byte == '\0' ? text : zeph::append(text, &byte, 1);
+}
+
+char* Zeph_Cat(char* text, int value) {
+  char digits[sizeof "-2147483648"];
+  const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+  return zeph::append(text, digits, static_cast<std::size_t>(end - digits));
+}
+
+char* Zeph_Cat(char* text, float value) {
+  return Zeph_Cat(text, static_cast<double>(value));
+}
+
+char* Zeph_Cat(char* text, double value) {
+  // 317 bytes at most, a longer decimal point of the locale not counted.
+  char digits[352];
+  zeph::format_bounded(digits, sizeof digits, "%f", value);
+  return zeph::append(text, digits, std::strlen(digits));
+}
+
+std::string Zeph_Splicing(int size, const char* format, ...) {
+  // As an unsigned size, a negative one is more than any heap has. The heap is not even asked:
+  // checking heaps take such a request for a fault and stop the process.
+  if (size < 0) throw std::bad_alloc();
+  if (size == 0) return std::string();
+  struct Arguments {
+    std::va_list list;
+    ~Arguments() {
+      va_end(list);
+    }
+  } arguments;
+  va_start(arguments.list, format);
+  return zeph::splice(static_cast<std::size_t>(size), format, arguments.list);
+}
+
+}  // namespace Orbane

@@ -1,0 +1,126 @@
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <cfloat>
+#include <climits>
+#include <new>
+#include <string>
+
+#include "support/guarded_buffer.h"
+#include "support/table.h"
+#include "zeph.h"
+
+using namespace zeph_test;
+
+namespace {
+
+template <typename Value>
+std::string cat(const std::string& text, Value value, std::size_t length) {
+  GuardedBuffer room(length + 1);
+  text.copy(room.data(), text.size());
+  room.data()[text.size()] = '\0';
+  EXPECT_EQ(Orbane::Zeph_Cat(room.data(), value), room.data());
+  return room.data();
+}
+
+// The result of the member for as many texts, in a buffer of `room` bytes.
+std::string join(const std::vector<std::string>& texts, std::size_t room) {
+  GuardedBuffer first(room);
+  texts[0].copy(first.data(), texts[0].size());
+  first.data()[texts[0].size()] = '\0';
+  std::vector<const char*> more;
+  for (std::size_t i = 1; i < texts.size(); ++i) more.push_back(texts[i].c_str());
+  const auto call = [&](auto... indexes) {
+    Orbane::Zeph_Strcat_Alarm_Append_Text(first.data(), more[std::size_t(indexes)]...);
+  };
+  switch (more.size()) {
+    case 1:
+      call(0);
+      break;
+    case 2:
+      call(0, 1);
+      break;
+    case 3:
+      call(0, 1, 2);
+      break;
+    case 4:
+      call(0, 1, 2, 3);
+      break;
+    default:
+      call(0, 1, 2, 3, 4);
+  }
+  return first.data();
+}
+
+}  // namespace
+
+TEST(Cat, AppendsTextsBytesAndNumbers) {
+  EXPECT_EQ(cat("ab", "cd", 4), "abcd");
+  EXPECT_EQ(cat("", "", 0), "");
+  EXPECT_EQ(cat("ab", '\xC4', 3), "ab\xC4");
+  EXPECT_EQ(cat("ab", '\0', 2), "ab");
+  EXPECT_EQ(cat("n", INT_MIN, 12), "n-2147483648");
+  EXPECT_EQ(cat("n", 0, 2), "n0");
+  EXPECT_EQ(cat("", 0.1F, 8), "0.100000");
+  EXPECT_EQ(cat("", 16777216.0F, 15), "16777216.000000");
+  EXPECT_EQ(cat("", -FLT_MAX, 47).size(), 47U);
+  EXPECT_EQ(cat("x", 1.5, 9), "x1.500000");
+  EXPECT_EQ(cat("", -DBL_MAX, 317).size(), 317U);
+  char twice[5] = "ab";
+  EXPECT_STREQ(Orbane::Zeph_Cat(twice, twice), "abab");
+}
+
+TEST(Splicing, SizeBoundsTheText) {
+  errno = 9;
+  const std::string longer(600, 'x');
+  EXPECT_EQ(Orbane::Zeph_Splicing(4, "%s", "abcdef"), "abc");
+  EXPECT_EQ(Orbane::Zeph_Splicing(7, "%s-%d", "abcd", 5), "abcd-5");
+  EXPECT_EQ(Orbane::Zeph_Splicing(1, "%d", 5), "");
+  EXPECT_EQ(Orbane::Zeph_Splicing(0, "%d", 5), "");
+  EXPECT_EQ(Orbane::Zeph_Splicing(9, "a%cb", 0), "a") << "up to the first zero byte";
+  for (const int size : {511, 512, 513, 600, 601, 5000, INT_MAX}) {
+    EXPECT_EQ(Orbane::Zeph_Splicing(size, "%s", longer.c_str()),
+              longer.substr(0, static_cast<std::size_t>(size) - 1))
+        << size;
+  }
+  EXPECT_EQ(Orbane::Zeph_Splicing(900, "%s%c%s", longer.c_str(), 0, "y"), longer);
+  EXPECT_EQ(errno, 9);
+  EXPECT_THROW(Orbane::Zeph_Splicing(-1, "%d", 5), std::bad_alloc);
+  EXPECT_THROW(Orbane::Zeph_Splicing(INT_MIN, "%d", 5), std::bad_alloc);
+}
+
+TEST(AlarmText, JoinsHalfByHalf) {
+  const struct {
+    const char* why;
+    std::vector<std::string> texts;
+    const char* result;
+  } rows[] = {
+      {"both have two halves", {"a1|b1", "a2|b2"}, "a1 a2|b1 b2"},
+      {"neither has", {"a1", "a2"}, "a1 a2|a1 a2"},
+      {"each makes up for its own", {"a1|b1", "a2"}, "a1 a2|b1 a2"},
+      {"an empty first half stays", {"x|", "|y"}, "x |x y"},
+      {"both empty", {"", ""}, " | "},
+      {"a second '|' is text", {"p|q|r", "s"}, "p s|q|r s"},
+      {"three", {"a|b", "c", "e|f"}, "a c e|b c f"},
+      {"four", {"a", "b", "c", "d|e"}, "a b c d|a b c e"},
+      {"five", {"a|1", "b|2", "c|3", "d|4", "e|5"}, "a b c d e|1 2 3 4 5"},
+      {"six", {"a|1", "b|2", "c|3", "d|4", "e|5", ""}, "a b c d e |1 2 3 4 5 "},
+  };
+  each_row(rows, [](const auto& row) {
+    const std::size_t size = std::max(row.texts[0].size(), std::string(row.result).size());
+    EXPECT_EQ(join(row.texts, size + 1), row.result);
+  });
+  char same[16] = "a|b";
+  Orbane::Zeph_Strcat_Alarm_Append_Text(same, same, same + 2);
+  EXPECT_STREQ(same, "a a b|b b b") << "texts may overlap";
+}
+
+TEST(AlarmText, CutAt511BytesWhateverTheHalves) {
+  for (const std::size_t first : {200U, 254U, 255U, 256U, 509U, 510U, 511U, 512U, 2000U}) {
+    for (const std::size_t second : {0U, 1U, 255U, 256U, 511U, 512U, 2000U}) {
+      const std::string a(first, 'a'), b(second, 'b'), whole = a + " c|" + (second ? b : a) + " d";
+      EXPECT_EQ(join({a + '|' + b, "c|d"}, std::max<std::size_t>(first + second + 2, 512)),
+                whole.substr(0, 511));
+    }
+  }
+}
