@@ -11,6 +11,8 @@ namespace zeph_bench {
 void register_cipher_rows();
 void register_compare_rows();
 void register_fields_rows();
+void register_syserror_rows();
+void register_time_rows();
 
 namespace {
 
@@ -20,9 +22,9 @@ struct Family {
 };
 
 constexpr Family families[] = {
-    {"cipher", register_cipher_rows},
-    {"compare", register_compare_rows},
-    {"fields", register_fields_rows},
+    {"cipher", register_cipher_rows}, {"compare", register_compare_rows},
+    {"fields", register_fields_rows}, {"syserror", register_syserror_rows},
+    {"time", register_time_rows},
 };
 
 bool register_family(std::string_view name) {

@@ -722,6 +722,119 @@ ZEPH_API unsigned long Zeph_Decrypt(char* record, char* text);
 
 /// @}
 
+/// @defgroup time Time
+/// The present local time and durations as texts of a fixed form.
+///
+/// Each function has one result buffer for the whole process and always returns its address, never
+/// NULL. The next call of the same function overwrites the text, a call of another one leaves it
+/// alone; a caller that needs the text longer copies it. Nothing is to be freed. Two threads must
+/// not be in the same function at once, and none may read a text while another one makes the next.
+/// No function prints, allocates or can fail.
+/// @{
+
+/// Returns the present local date and time.
+///
+/// | Function             | Text, here of 29 July 2025  | Characters | Buffer bytes |
+/// |----------------------|-----------------------------|------------|--------------|
+/// | Zeph_Get_Date()      | `2025/07/29`                | 10         | 16           |
+/// | Zeph_Get_Time()      | `08:05:09`                  | 8          | 16           |
+/// | Zeph_Get_Time2()     | `08:05:09.042`              | 12         | 16           |
+/// | Zeph_Get_DateTime()  | `2025/07/29 08:05:09`       | 19         | 24           |
+/// | Zeph_Get_DateTime2() | `2025/07/29 08:05:09.042`   | 23         | 32           |
+///
+/// Each call reads the clock once, so that all fields belong to one instant; two calls are two
+/// instants, and a date of one with a time of the other may lie a day apart. The hour runs from 00
+/// to 23. The year has all its digits; one below 1000 is filled up with zeros to four, but only to
+/// two by Zeph_Get_DateTime2().
+///
+/// The zone is that of the process, and a stamp follows the begin and the end of summer time. On
+/// POSIX the C runtime reads the zone once: a host that changes the variable `TZ` calls `tzset()`
+/// to make it count.
+///@{
+ZEPH_API const char* Zeph_Get_Date(void);
+ZEPH_API const char* Zeph_Get_Time(void);
+ZEPH_API const char* Zeph_Get_Time2(void);
+ZEPH_API const char* Zeph_Get_DateTime(void);
+ZEPH_API const char* Zeph_Get_DateTime2(void);
+///@}
+
+/// Returns a duration as "HH:MM:SS", from 24 hours on with the days in front: "D HH:MM:SS".
+/// Zeph_Seconds_To_Time2() adds the milliseconds: "HH:MM:SS.mmm". The buffers have 32 bytes.
+///
+/// Nothing is rounded: 59.9999 is "00:00:59.999". The milliseconds are cut off the product of
+/// `seconds` and 1000, as a `double` has it: 1.001 times 1000 is just below 1001, so that 1.001
+/// ends in ".000" and 1.005 in ".004".
+///
+/// A negative duration has no days, its hours run on. Each field bears its own sign, and the sign
+/// counts as one of the field's characters: -5.0 is "00:00:-5.000", -0.5 is "00:00:00.-500",
+/// -90061.25 is "-25:-1:-1.-250".
+///
+/// The whole seconds fit an `int` from -2147483648 to 2147483647. A duration beyond that, an
+/// infinite one too, shows as the last one inside: "24855 03:14:07.999" or "-596523:-14:-8.-999",
+/// or the same without milliseconds. Not-a-number shows as 0.
+///
+///     Orbane::Zeph_Seconds_To_Time(90061.25);   // "1 01:01:01"
+///     Orbane::Zeph_Seconds_To_Time2(90061.25);  // "1 01:01:01.250"
+///@{
+ZEPH_API const char* Zeph_Seconds_To_Time(double seconds);
+ZEPH_API const char* Zeph_Seconds_To_Time2(double seconds);
+///@}
+
+/// @}
+
+/// @defgroup syserror System errors
+/// Why did the last system call fail? A text for an operator who reads Chinese.
+/// @{
+
+/// Returns the message for the last error code of the calling thread, in code page 936.
+///
+/// The texts are those of the library's own table, 459 codes from 0 to 1398, and the same on every
+/// system. They name their code: a Chinese "system error information", then ":[5]-" and the
+/// message; in the text of code 0 the word for "error" is left out. A code without a row gives a
+/// Chinese "system error code" and ":[34]", with the code as a signed number of 32 bits.
+///
+/// The result is one buffer of 512 bytes for the whole process, the same address at every call. It
+/// is cleared to its end before the text is written; the longest text has 154 bytes. The next call
+/// overwrites it, also for other threads: two threads must not call at once. The code is only read,
+/// never set or cleared. Nothing is printed, allocated or thrown, and every code has an answer.
+///
+/// On Windows the code is that of `GetLastError`. Elsewhere, if the host defines a function
+/// `extern "C" uint32_t GetLastError(void)` that the dynamic linker can see, its answer is the
+/// code. Otherwise it is `errno`, translated to the Windows code that means the same:
+///
+/// | Code  | errno                  | Code  | errno             | Code  | errno               |
+/// |-------|------------------------|-------|-------------------|-------|---------------------|
+/// | 2     | ENOENT                 | 160   | E2BIG             | 1229  | ENOTCONN            |
+/// | 4     | EMFILE, ENFILE         | 167   | ENOLCK            | 1230  | EISCONN             |
+/// | 5     | EACCES, EISDIR, EPERM  | 170   | EBUSY             | 1231  | ENETUNREACH         |
+/// | 6     | EBADF, EIDRM           | 183   | EEXIST            | 1232  | EHOSTUNREACH        |
+/// | 8     | ENOBUFS, ENOMEM, ENOSR | 193   | ENOEXEC           | 1235  | EINTR               |
+/// | 13    | EBADMSG                | 206   | ENAMETOOLONG      | 1236  | ECONNABORTED        |
+/// | 17    | EXDEV                  | 223   | EFBIG             | 1237  | EAGAIN, EWOULDBLOCK |
+/// | 19    | EROFS                  | 259   | ENODATA, ENOMSG   | 1241  | EADDRNOTAVAIL       |
+/// | 20    | ENODEV                 | 267   | ENOTDIR           | 1295  | EDQUOT              |
+/// | 32    | ETXTBSY                | 487   | EFAULT            | 1460  | ETIME, ETIMEDOUT    |
+/// | 50    | ENOTSUP, EOPNOTSUPP    | 534   | EOVERFLOW, ERANGE | 1921  | ELOOP               |
+/// | 59    | EPROTO                 | 995   | ECANCELED         | 10037 | EALREADY            |
+/// | 64    | ECONNRESET, ENOLINK    | 997   | EINPROGRESS       | 10038 | ENOTSOCK            |
+/// | 87    | EDOM, EINVAL           | 1006  | ESTALE            | 10039 | EDESTADDRREQ        |
+/// | 105   | EOWNERDEAD             | 1113  | EILSEQ            | 10040 | EMSGSIZE            |
+/// | 109   | EPIPE                  | 1117  | EIO               | 10041 | EPROTOTYPE          |
+/// | 112   | ENOSPC                 | 1131  | EDEADLK           | 10042 | ENOPROTOOPT         |
+/// | 117   | ENOSTR, ENOTTY         | 1142  | EMLINK            | 10043 | EPROTONOSUPPORT     |
+/// | 119   | ENOSYS                 | 1167  | ENXIO             | 10047 | EAFNOSUPPORT        |
+/// | 128   | ECHILD                 | 1168  | ESRCH             | 10048 | EADDRINUSE          |
+/// | 132   | ESPIPE                 | 1222  | ENETDOWN          | 10052 | ENETRESET           |
+/// | 145   | ENOTEMPTY              | 1225  | ECONNREFUSED      |       |                     |
+///
+/// Any other value of `errno` stands for itself. A code in this list may have no row, as 1460 has
+/// none.
+///
+///     if (!file) std::puts(Orbane::Zeph_Get_SysErrMsg());  // at once: other calls set errno too
+ZEPH_API const char* Zeph_Get_SysErrMsg();
+
+/// @}
+
 }  // namespace Orbane
 
 #endif  // ZEPH_H

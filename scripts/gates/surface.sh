@@ -10,6 +10,14 @@ build_library clang
 # Every writable object of the library, as c++filt prints it.
 writable=(
   zeph::g_aes
+  'Orbane::Zeph_Get_Date()::result'
+  'Orbane::Zeph_Get_DateTime()::result'
+  'Orbane::Zeph_Get_DateTime2()::result'
+  'Orbane::Zeph_Get_SysErrMsg()::result'
+  'Orbane::Zeph_Get_Time()::result'
+  'Orbane::Zeph_Get_Time2()::result'
+  'Orbane::Zeph_Seconds_To_Time(double)::result'
+  'Orbane::Zeph_Seconds_To_Time2(double)::result'
 )
 
 # Those that the compilers' own start-up code, exception tables and description of the processor

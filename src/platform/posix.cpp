@@ -18,19 +18,28 @@ struct ErrorPair {
   std::uint16_t windows;
 };
 
-// errno values and the Windows codes that mean the same. A value without a row stands for itself.
+// errno values and the Windows codes that mean the same; where several do, the one whose message
+// says it best. It covers what POSIX names and Windows has; any other value stands for itself. On
+// some systems two of the names are one value.
+// clang-format off
 constexpr ErrorPair error_pairs[] = {
-    {EPERM, 5},           {ENOENT, 2},          {EINTR, 995},         {EIO, 1117},
-    {ENOEXEC, 193},       {EBADF, 6},           {ECHILD, 128},        {ENOMEM, 8},
-    {EACCES, 5},          {EFAULT, 998},        {EBUSY, 170},         {EEXIST, 183},
-    {EXDEV, 17},          {ENODEV, 55},         {ENOTDIR, 267},       {EINVAL, 87},
-    {EMFILE, 4},          {EFBIG, 223},         {ENOSPC, 112},        {ESPIPE, 25},
-    {EROFS, 19},          {EMLINK, 1142},       {EPIPE, 109},         {ERANGE, 534},
-    {EDEADLK, 1131},      {ENAMETOOLONG, 206},  {ENOSYS, 120},        {ENOTEMPTY, 145},
-    {ELOOP, 1921},        {EILSEQ, 1113},       {ENOTSUP, 50},        {ETIMEDOUT, 1460},
-    {ECANCELED, 1223},    {ECONNREFUSED, 1225}, {ECONNABORTED, 1236}, {ENETUNREACH, 1231},
-    {EHOSTUNREACH, 1232}, {EADDRINUSE, 1227},
+    {E2BIG, 160}, {EACCES, 5}, {EADDRINUSE, 10048}, {EADDRNOTAVAIL, 1241}, {EAFNOSUPPORT, 10047},
+    {EAGAIN, 1237}, {EALREADY, 10037}, {EBADF, 6}, {EBADMSG, 13}, {EBUSY, 170}, {ECANCELED, 995},
+    {ECHILD, 128}, {ECONNABORTED, 1236}, {ECONNREFUSED, 1225}, {ECONNRESET, 64}, {EDEADLK, 1131},
+    {EDESTADDRREQ, 10039}, {EDOM, 87}, {EDQUOT, 1295}, {EEXIST, 183}, {EFAULT, 487}, {EFBIG, 223},
+    {EHOSTUNREACH, 1232}, {EIDRM, 6}, {EILSEQ, 1113}, {EINPROGRESS, 997}, {EINTR, 1235},
+    {EINVAL, 87}, {EIO, 1117}, {EISCONN, 1230}, {EISDIR, 5}, {ELOOP, 1921}, {EMFILE, 4},
+    {EMLINK, 1142}, {EMSGSIZE, 10040}, {ENAMETOOLONG, 206}, {ENETDOWN, 1222}, {ENETRESET, 10052},
+    {ENETUNREACH, 1231}, {ENFILE, 4}, {ENOBUFS, 8}, {ENODATA, 259}, {ENODEV, 20}, {ENOENT, 2},
+    {ENOEXEC, 193}, {ENOLCK, 167}, {ENOLINK, 64}, {ENOMEM, 8}, {ENOMSG, 259}, {ENOPROTOOPT, 10042},
+    {ENOSPC, 112}, {ENOSR, 8}, {ENOSTR, 117}, {ENOSYS, 119}, {ENOTCONN, 1229}, {ENOTDIR, 267},
+    {ENOTEMPTY, 145}, {ENOTSOCK, 10038}, {ENOTSUP, 50}, {ENOTTY, 117}, {ENXIO, 1167},
+    {EOPNOTSUPP, 50}, {EOVERFLOW, 534}, {EOWNERDEAD, 105}, {EPERM, 5}, {EPIPE, 109}, {EPROTO, 59},
+    {EPROTONOSUPPORT, 10043}, {EPROTOTYPE, 10041}, {ERANGE, 534}, {EROFS, 19}, {ESPIPE, 132},
+    {ESRCH, 1168}, {ESTALE, 1006}, {ETIME, 1460}, {ETIMEDOUT, 1460}, {ETXTBSY, 32},
+    {EWOULDBLOCK, 1237}, {EXDEV, 17},
 };
+// clang-format on
 
 constexpr int highest_errno() {
   int highest = 0;
@@ -52,6 +61,8 @@ constexpr auto code_by_errno = [] {
 }  // namespace
 
 LocalTime local_time() {
+  // localtime_r takes the zone that the runtime holds: unlike localtime it does not look up the
+  // zone's file at each call, and it knows the changes of the offset all the same.
   const ErrorStateKeeper keeper;
   timespec now{};
   clock_gettime(CLOCK_REALTIME, &now);
@@ -67,7 +78,10 @@ LocalTime local_time() {
 }
 
 std::uint32_t last_error() {
-  if (GetLastError) return GetLastError();
+  if (GetLastError) {
+    const ErrorStateKeeper keeper;
+    return GetLastError();
+  }
   const auto value = static_cast<std::uint32_t>(errno);
   if (value < code_by_errno.size() && code_by_errno[value] != 0) return code_by_errno[value];
   return value;
