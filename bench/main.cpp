@@ -9,6 +9,7 @@
 namespace zeph_bench {
 
 void register_cipher_rows();
+void register_codepage_rows();
 void register_compare_rows();
 void register_fields_rows();
 void register_syserror_rows();
@@ -22,9 +23,9 @@ struct Family {
 };
 
 constexpr Family families[] = {
-    {"cipher", register_cipher_rows}, {"compare", register_compare_rows},
-    {"fields", register_fields_rows}, {"syserror", register_syserror_rows},
-    {"time", register_time_rows},
+    {"cipher", register_cipher_rows},     {"codepage", register_codepage_rows},
+    {"compare", register_compare_rows},   {"fields", register_fields_rows},
+    {"syserror", register_syserror_rows}, {"time", register_time_rows},
 };
 
 bool register_family(std::string_view name) {

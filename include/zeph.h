@@ -653,6 +653,50 @@ ZEPH_API void Zeph_Strcat_Alarm_Append_Text(char* text1, const char* text2, cons
 
 /// @}
 
+/// @defgroup codepage Code pages
+/// UTF-8 to and from ANSI, which is code page 936 here, whatever code page the system uses.
+///
+/// `text` is a byte text; NULL is the empty text. The String forms read the object up to its first
+/// zero byte and do not change it, in spite of the non-constant reference. The result is a new
+/// String, and the only thing that takes heap; a long one may have more capacity than it needs. Its
+/// bytes are the same on every platform: the library converts by the published code page 936,
+/// character by character through UTF-16.
+///
+/// ASCII passes unchanged. Nothing tells of what could not be converted; a text in the wrong
+/// encoding, or one that is converted twice, gives a result like any other. A text that is cut in
+/// the middle of a character is read up to its terminator and no further.
+///
+///     std::string ansi = Orbane::Zeph_UTF8_to_ANSI("\xE6\xB8\xA9 25");  // "\xCE\xC2 25"
+///     Orbane::Zeph_ANSI_to_UTF8(ansi);                                  // the first text again
+/// @{
+
+/// Returns the UTF-8 text `text` in code page 936. No longer than `text`.
+///
+/// A character that the code page lacks becomes '?', one beyond U+FFFF "??", one for each of its
+/// two UTF-16 units. There are 412 exceptions: U+00AA, for example, becomes 'a', because the code
+/// page has a look-alike; none of these converts back to what it was.
+///
+/// Bytes that are not well-formed UTF-8 count as U+FFFD, which the code page lacks, and so become
+/// '?': one for each maximal part that could have begun a character, as the Unicode Standard
+/// recommends in its section 3.9. A character cut short by the end of the text is one '?'; an
+/// overlong form or half of a surrogate pair is one '?' for each byte.
+///@{
+ZEPH_API std::string Zeph_UTF8_to_ANSI(std::string& text);
+ZEPH_API std::string Zeph_UTF8_to_ANSI(const char* text);
+///@}
+
+/// Returns the code page 936 text `text` in UTF-8. At most three times as long as `text`.
+///
+/// 0x80 is the euro sign and 0xFF is U+F8F5; every other byte from 0x81 on is a lead byte and takes
+/// the next byte with it. A pair that the code page does not have, its second byte being below
+/// 0x40, 0x7F or 0xFF, becomes one '?', and a lead byte at the very end does, too.
+///@{
+ZEPH_API std::string Zeph_ANSI_to_UTF8(std::string& text);
+ZEPH_API std::string Zeph_ANSI_to_UTF8(const char* text);
+///@}
+
+/// @}
+
 /// @defgroup cipher Sealed texts
 /// A byte text sealed into a binary record with AES, and brought back.
 ///

@@ -1,0 +1,26 @@
+// Code page 936 as the data file tells it, and both conversions as one would explain them: slow,
+// without the library's tables, the measure of what the library gives.
+#ifndef ZEPH_TESTS_CODEPAGE_CODEPAGE_DATA_H
+#define ZEPH_TESTS_CODEPAGE_CODEPAGE_DATA_H
+
+#include <map>
+#include <string>
+
+namespace zeph_test {
+
+struct CodePage {
+  std::map<unsigned, std::string> bytes_of;  // what a UTF-16 unit becomes
+  std::map<std::string, unsigned> unit_of;   // what one or two bytes become
+};
+
+const CodePage& code_page();
+
+// The bytes of one unit, also of half of a surrogate pair, for which there is no valid UTF-8.
+std::string utf8(unsigned unit);
+
+std::string expected_ansi(const std::string& utf8_text);
+std::string expected_utf8(const std::string& ansi_text);
+
+}  // namespace zeph_test
+
+#endif  // ZEPH_TESTS_CODEPAGE_CODEPAGE_DATA_H
