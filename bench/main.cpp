@@ -12,6 +12,7 @@ void register_cipher_rows();
 void register_codepage_rows();
 void register_compare_rows();
 void register_fields_rows();
+void register_number_rows();
 void register_syserror_rows();
 void register_time_rows();
 
@@ -23,9 +24,10 @@ struct Family {
 };
 
 constexpr Family families[] = {
-    {"cipher", register_cipher_rows},     {"codepage", register_codepage_rows},
-    {"compare", register_compare_rows},   {"fields", register_fields_rows},
-    {"syserror", register_syserror_rows}, {"time", register_time_rows},
+    {"cipher", register_cipher_rows},   {"codepage", register_codepage_rows},
+    {"compare", register_compare_rows}, {"fields", register_fields_rows},
+    {"number", register_number_rows},   {"syserror", register_syserror_rows},
+    {"time", register_time_rows},
 };
 
 bool register_family(std::string_view name) {

@@ -481,6 +481,184 @@ ZEPH_API void Zeph_Join(const std::vector<std::string>& list, char delimiter, st
 
 /// @}
 
+/// @defgroup numbers Numbers
+/// Is a text a number, and which? Three strictness levels for reading, and real numbers as texts.
+///
+/// |                        | strict: `Check`, `To`      | lenient: `Ext_..._From_Str` | filter:
+/// `HexStr`  |
+/// |------------------------|----------------------------|-----------------------------|-------------------|
+/// | a foreign byte         | refuses the text           | ends the number             | is skipped
+/// | | blanks in front        | refused                    | skipped                     | skipped
+/// | | "+5", " 5" as integers | refused                    | 5                           | 5 | |
+/// "0x1F" as integer      | 31                         | 0                           | 31 | | no
+/// digit at all        | integers: 0, reals: refused| 0                           | 0 |
+///
+/// *Bounds*: a value passes if `minimum <= value <= maximum`. Two equal bounds are no bound at all:
+/// (5, 5) does not ask for the value 5. A minimum above the maximum refuses every value. The value
+/// is stored in either case.
+///
+/// *Slices*: `start` and `count` select the bytes from index `start` to `start + count - 1`. Both
+/// are not negative and lie within the text; neither is tested against it. A pair of numbers in
+/// front of the output is always minimum and maximum, a pair behind it always start and count. The
+/// slice is copied, so that a zero byte among its bytes ends it early.
+///
+/// A String is read up to its first zero byte. Outputs are not NULL. Overflow is never reported.
+///
+///     int speed;
+///     Orbane::Zeph_To_Int("rpm=1200", &speed, 4, 4);    // true, speed is 1200
+///     double level;
+///     Orbane::Zeph_To_Double("7.25", 0.0, 9.5, &level); // true, within the bounds
+/// @{
+
+/// Is the byte text a decimal number of 8 bits?
+///
+/// The text is an optional '-' as its first byte and then digits, none or any number of them; there
+/// is no '+' and no hexadecimal form. The value is taken modulo 256 and read as a signed 8-bit
+/// number: "200" is -56, "300" is 44; "" and "-" are 0. The bounds are signed 8-bit numbers too,
+/// also where `char` is unsigned.
+///
+/// Returns true if the whole text is such a number and passes the bounds. At a foreign byte returns
+/// false and leaves in `*value` the digits in front of it, without a sign.
+ZEPH_API bool Zeph_Char_Num_Check(const char* text, char minimum, char maximum, char* value);
+
+/// Is the text an integer text?
+///
+/// It is an optional '-' as the first byte, and then either "0x" or "0X" and hexadecimal digits, or
+/// decimal digits. No '+', no blank, no octal form: "0123" is one hundred and twenty-three. The
+/// digits may be missing: "", "-", "0x" and "-0x" are integer texts of value 0.
+///
+/// Returns 0 if it is none, 2 if it is one with a '-' ("-0" too), else 1. Reading stops at the
+/// first foreign byte.
+///@{
+ZEPH_API int Zeph_Int_Check(const char* text);
+ZEPH_API int Zeph_Int_Check(const std::string& text);
+///@}
+
+/// Reads an integer text, as Zeph_Int_Check() tells what that is.
+///
+/// The value is taken modulo 2^32 and read as a signed number: "2147483648" is -2147483648,
+/// "4294967297" is 1, "0xFFFFFFFF" is -1.
+///
+/// Returns true if the whole text, or the slice, is an integer text and its value passes the
+/// bounds. `*value` is written on the way: a text with a foreign byte gives false and leaves the
+/// digits in front of it, without a sign ("-12a" leaves 12, "+5" leaves 0); a value outside the
+/// bounds gives false and stays.
+///
+/// The slice forms copy the slice into a work buffer. If the heap refuses it, or `count` is
+/// negative, they report "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem", return false and leave
+/// `*value` as it was.
+///@{
+ZEPH_API bool Zeph_To_Int(const char* text, int* value);
+ZEPH_API bool Zeph_To_Int(const std::string& text, int* value);
+ZEPH_API bool Zeph_To_Int(const char* text, int* value, int start, int count);
+ZEPH_API bool Zeph_To_Int(const std::string& text, int* value, int start, int count);
+ZEPH_API bool Zeph_To_Int(const char* text, int minimum, int maximum, int* value);
+ZEPH_API bool Zeph_To_Int(const std::string& text, int minimum, int maximum, int* value);
+ZEPH_API bool Zeph_To_Int(const char* text, int minimum, int maximum, int* value, int start,
+                          int count);
+ZEPH_API bool Zeph_To_Int(const std::string& text, int minimum, int maximum, int* value, int start,
+                          int count);
+///@}
+
+/// Reads the integer at the start of a slice as the runtime's `atoi` does: white space and a sign
+/// in front are taken, reading stops at the first byte that is no digit, no digits give 0. What a
+/// number beyond an `int` gives is up to the runtime.
+///
+/// Without `buffer` the slice has at most 255 bytes. A longer one, and a negative `count` with it,
+/// is reported as "[Zeph] Ext_Int_From_Str Size Error" and gives 0.
+///
+/// With `buffer` there is no limit: it has room for `count + 1` bytes, holds the slice as a text
+/// afterwards, and may overlap `text`. A negative `count` gives 0 and leaves it untouched, without
+/// a report.
+///@{
+ZEPH_API int Zeph_Ext_Int_From_Str(const char* text, int start, int count);
+ZEPH_API int Zeph_Ext_Int_From_Str(const char* text, int start, int count, char* buffer);
+///@}
+
+/// Reads the hexadecimal digits of a text or slice as one number and skips every other byte, so
+/// that "0x1F" and "1 F" are 31 and "-1" is 1.
+///
+/// The value is taken modulo 2^32 and read as a signed number: the last eight digits count, and
+/// "FFFFFFFF" is -1. No digits give 0. The slice form does not look for a terminator: a zero byte
+/// is skipped like any other. A `count` of 0 or below gives 0.
+///@{
+ZEPH_API int Zeph_HexStr_to_DecInt(const char* text);
+ZEPH_API int Zeph_HexStr_to_DecInt(const char* text, int start, int count);
+///@}
+
+/// Is the text a real-number text? The test counts bytes and looks at no order.
+///
+/// A text passes if it has at least one digit, at most one '.', one exponent letter ('e' or 'E'),
+/// two '-' and two '+', and no other byte. So "1-2", "5e", "e5" and "--5" pass, and blanks, a
+/// hexadecimal form, "inf" and the empty text do not.
+///
+/// Returns 0 if the text fails, 2 if it passes and holds exactly one '-', wherever that stands,
+/// else 1. The code says nothing of the value's sign: "1e-5" gives 2, "-1e-5" gives 1.
+///@{
+ZEPH_API int Zeph_Double_Check(const char* text);
+ZEPH_API int Zeph_Double_Check(const std::string& text);
+///@}
+
+/// Reads a real-number text.
+///
+/// The test of Zeph_Double_Check() alone decides whether the text is one. A text, or slice, that
+/// fails gives false and leaves `*value` as it was, unlike in Zeph_To_Int().
+///
+/// The value is what `sscanf` reads with "%lf", in the process's locale, from the start of the text
+/// up to the first byte that it cannot use: "5-3" is 5, "1.5e3-" is 1500, "5e" is 5. A text that
+/// passes the test but starts with no number, as "e5" and "+-5", is 0.0. With a '.' as decimal
+/// point the value is the nearest double, ties to the even one; too large a value is infinite.
+/// Returns true if the value passes the bounds; outside of them it is stored all the same.
+///
+/// The slice forms copy the slice into a work buffer. If the heap refuses it, or `count` is
+/// negative, they report "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem", return false and leave
+/// `*value` as it was.
+///@{
+ZEPH_API bool Zeph_To_Double(const char* text, double* value);
+ZEPH_API bool Zeph_To_Double(const std::string& text, double* value);
+ZEPH_API bool Zeph_To_Double(const char* text, double* value, int start, int count);
+ZEPH_API bool Zeph_To_Double(const std::string& text, double* value, int start, int count);
+ZEPH_API bool Zeph_To_Double(const char* text, double minimum, double maximum, double* value);
+ZEPH_API bool Zeph_To_Double(const std::string& text, double minimum, double maximum,
+                             double* value);
+ZEPH_API bool Zeph_To_Double(const char* text, double minimum, double maximum, double* value,
+                             int start, int count);
+ZEPH_API bool Zeph_To_Double(const std::string& text, double minimum, double maximum, double* value,
+                             int start, int count);
+///@}
+
+/// Reads the real number at the start of a slice as the runtime's `atof` does, in the process's
+/// locale: white space in front is taken, reading stops at the first byte that cannot belong to the
+/// number, no number gives 0.0.
+///
+/// Without `buffer` the slice has at most 255 bytes. A longer one, and a negative `count` with it,
+/// is reported as "[ZEPH_API] Ext_Dbl_From_Str Size Error" and gives 0.0.
+///
+/// With `buffer` there is no limit: it has room for `count + 1` bytes, holds the slice as a text
+/// afterwards, and may overlap `text`. A negative `count` gives 0.0 and leaves it untouched,
+/// without a report.
+///@{
+ZEPH_API double Zeph_Ext_Dbl_From_Str(const char* text, int start, int count);
+ZEPH_API double Zeph_Ext_Dbl_From_Str(const char* text, int start, int count, char* buffer);
+///@}
+
+/// Writes a real number; `precision` picks the form.
+///
+/// 0 to 10 is fixed notation with so many decimals, -1 to -10 exponent notation with so many
+/// decimals, and any other code fixed notation with six. The last digit is rounded from the exact
+/// value of the double, a tie to the even digit: 2.5 with 0 decimals is "2". The decimal point is
+/// that of the process's locale, and infinity and NaN are written as the runtime's `printf` writes
+/// them. An exponent has at least two digits ("1.5e+03"); from a runtime that always writes three,
+/// leading zeros are taken out ("1.5e+3").
+///
+/// `out` has room for 64 bytes: a text is cut at 63 bytes, which only fixed notation of 1e52 and
+/// above can reach. Bytes behind the terminator stay as they were.
+///
+///     char text[64];
+///     Orbane::Zeph_Conv_Dbl_To_Str(1234.5678, 2, text);   // "1234.57"
+///     Orbane::Zeph_Conv_Dbl_To_Str(1234.5678, -2, text);  // "1.23e+03"
+ZEPH_API void Zeph_Conv_Dbl_To_Str(double value, int precision, char* const out);
+
 /// @defgroup replace Replace and remove
 /// Bytes and pieces of a text are replaced or cut out in place, byte by byte exactly.
 ///

@@ -1,4 +1,5 @@
 // The platform on POSIX systems.
+#include <langinfo.h>
 #include <malloc.h>
 #include <time.h>
 
@@ -89,6 +90,11 @@ std::uint32_t last_error() {
 
 std::size_t block_capacity(void* block) {
   return malloc_usable_size(block);
+}
+
+bool decimal_point_is_dot() {
+  const char* const point = nl_langinfo(RADIXCHAR);
+  return point[0] == '.' && point[1] == '\0';
 }
 
 // A host's own GetLastError is the host's business: the library calls nothing that changes it.

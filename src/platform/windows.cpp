@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <cerrno>
+#include <clocale>
 
 #include "platform/platform.h"
 
@@ -21,6 +22,11 @@ std::uint32_t last_error() {
 
 std::size_t block_capacity(void* block) {
   return _msize(block);
+}
+
+bool decimal_point_is_dot() {
+  const char* const point = std::localeconv()->decimal_point;
+  return point[0] == '.' && point[1] == '\0';
 }
 
 ErrorState error_state() {

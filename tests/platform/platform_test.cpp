@@ -5,6 +5,8 @@
 #include <cerrno>
 #include <cstdlib>
 
+#include "support/scoped_locale.h"
+
 TEST(Platform, CapacityCoversTheRequest) {
   void* const block = std::malloc(100);
   EXPECT_GE(zeph::block_capacity(block), 100U);
@@ -18,4 +20,11 @@ TEST(Platform, ErrorStateIsKept) {
     errno = 1;
   }
   EXPECT_EQ(errno, 33);
+}
+
+TEST(Platform, DecimalPointFollowsTheLocale) {
+  EXPECT_TRUE(zeph::decimal_point_is_dot());
+  const zeph_test::ScopedLocale locale(LC_NUMERIC, "de_DE", "UTF-8");
+  if (!locale.in_force()) GTEST_SKIP() << locale.reason();
+  EXPECT_FALSE(zeph::decimal_point_is_dot());
 }
