@@ -104,7 +104,7 @@ void register_codepage_rows() {
         {"ASCII", repeated("ALARM 17 set at 12:30:05.250; T1", size)},
     };
     for (const auto& input : inputs) {
-      // As many bytes on either side, so that the rows compare.
+      // The same text in both directions; as UTF-8 the Chinese one is half as long again.
       const std::string utf8 = Orbane::Zeph_ANSI_to_UTF8(input.ansi.c_str());
       const std::string text =
           std::string(input.kind) + ", " + std::to_string(size) + " bytes of ANSI";

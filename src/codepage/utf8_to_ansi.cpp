@@ -87,9 +87,9 @@ struct Utf8ToAnsi {
     constexpr std::uint64_t lead_bits = 0x8000800080008000;
     const char* from = at.from;
     char* to = at.to;
-    // The second of the two loads reaches two bytes past the four characters.
-    for (; stop - from >= 14; from += 12, to += 8) {
-      const std::uint64_t front = load_word(from), back = load_word(from + 6);
+    for (; stop - from >= 12; from += 12, to += 8) {
+      // The second load ends with the fourth character, and starts in the second one.
+      const std::uint64_t front = load_word(from), back = load_word(from + 4) >> 16;
       if ((((front & shape_mask) ^ shape) | ((back & shape_mask) ^ shape)) != 0) break;
       const std::uint64_t codes = two_codes(front) << 32 | two_codes(back);
       if ((codes & lead_bits) != lead_bits) break;
