@@ -484,14 +484,13 @@ ZEPH_API void Zeph_Join(const std::vector<std::string>& list, char delimiter, st
 /// @defgroup numbers Numbers
 /// Is a text a number, and which? Three strictness levels for reading, and real numbers as texts.
 ///
-/// |                        | strict: `Check`, `To`      | lenient: `Ext_..._From_Str` | filter:
-/// `HexStr`  |
-/// |------------------------|----------------------------|-----------------------------|-------------------|
-/// | a foreign byte         | refuses the text           | ends the number             | is skipped
-/// | | blanks in front        | refused                    | skipped                     | skipped
-/// | | "+5", " 5" as integers | refused                    | 5                           | 5 | |
-/// "0x1F" as integer      | 31                         | 0                           | 31 | | no
-/// digit at all        | integers: 0, reals: refused| 0                           | 0 |
+/// |                      | strict: `Check`, `To`        | lenient: `Ext_*` | filter: `HexStr` |
+/// |----------------------|------------------------------|------------------|------------------|
+/// | a foreign byte       | refuses the text             | ends the number  | is skipped       |
+/// | blanks in front      | refused                      | skipped          | skipped          |
+/// | "+5" as integer      | refused                      | 5                | 5                |
+/// | "0x1F" as integer    | 31                           | 0                | 31               |
+/// | no digit             | integer 0; no real number    | 0                | 0                |
 ///
 /// *Bounds*: a value passes if `minimum <= value <= maximum`. Two equal bounds are no bound at all:
 /// (5, 5) does not ask for the value 5. A minimum above the maximum refuses every value. The value
