@@ -86,6 +86,12 @@ std::string answer_text(std::string_view answer) {
   return std::string(answer);
 }
 
+std::string answer_text(const std::vector<std::string>& answer) {
+  std::string text;
+  for (const std::string& item : answer) text += item + '\n';
+  return text;
+}
+
 std::string answer_text(double answer) {
   char digits[32];
   std::snprintf(digits, sizeof digits, "%a", answer);

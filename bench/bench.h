@@ -40,6 +40,8 @@ std::string answer_text(Integer answer) {
   return std::to_string(answer);
 }
 
+std::string answer_text(const std::vector<std::string>& answer);
+
 class Row {
  public:
   Row(std::string family, std::string operation, std::string input, std::size_t bytes);

@@ -12,7 +12,11 @@ void register_cipher_rows();
 void register_codepage_rows();
 void register_compare_rows();
 void register_fields_rows();
+void register_lists_rows();
+void register_normalise_rows();
 void register_number_rows();
+void register_rewrite_rows();
+void register_search_rows();
 void register_syserror_rows();
 void register_time_rows();
 
@@ -26,7 +30,9 @@ struct Family {
 constexpr Family families[] = {
     {"cipher", register_cipher_rows},   {"codepage", register_codepage_rows},
     {"compare", register_compare_rows}, {"fields", register_fields_rows},
-    {"number", register_number_rows},   {"syserror", register_syserror_rows},
+    {"lists", register_lists_rows},     {"normalise", register_normalise_rows},
+    {"number", register_number_rows},   {"rewrite", register_rewrite_rows},
+    {"search", register_search_rows},   {"syserror", register_syserror_rows},
     {"time", register_time_rows},
 };
 

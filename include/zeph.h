@@ -190,6 +190,117 @@ ZEPH_API bool Zeph_Compare_L(std::string& a, std::string& b, int n);
 
 /// @}
 
+/// @defgroup normalise Case and blanks
+/// Letters folded to one case, and blanks taken off the ends. No member has a result.
+///
+/// The byte text forms work up to the first zero byte, the String forms on the whole stored size: a
+/// zero byte inside a String is a byte like any other.
+///
+///     char unit[] = "  Chamber 2 ";
+///     Orbane::Zeph_Trimed(unit);  // "Chamber 2"
+///     Orbane::Zeph_Upper(unit);   // "CHAMBER 2"
+/// @{
+
+/// Folds the letters of a text to lower case.
+///
+/// The fold looks at single bytes and follows the process's locale. In the "C" locale it changes
+/// the ASCII letters and nothing else, so that bytes of 0x80 and above keep their value; a trail
+/// byte of a double-byte character that lies among the ASCII letters is folded like one.
+///
+/// The forms with one argument fold in place. Those with two write `target`: the byte text form its
+/// length and a terminator, so that `target` has room for the length of `source` + 1 bytes; the
+/// String form replaces the object. `source` and `target` may be the same.
+///@{
+ZEPH_API void Zeph_Lower(char* text);
+ZEPH_API void Zeph_Lower(const char* source, char* target);
+ZEPH_API void Zeph_Lower(std::string& text);
+ZEPH_API void Zeph_Lower(const std::string& source, std::string& target);
+///@}
+
+/// As Zeph_Lower(), to upper case.
+///@{
+ZEPH_API void Zeph_Upper(char* text);
+ZEPH_API void Zeph_Upper(const char* source, char* target);
+ZEPH_API void Zeph_Upper(std::string& text);
+ZEPH_API void Zeph_Upper(const std::string& source, std::string& target);
+///@}
+
+/// Takes the blanks off the end. The blank is the byte 0x20 alone: a tab, a line end or, in a
+/// String, a zero byte at the end keeps what stands before it.
+///
+/// In a byte text every one of the trailing blanks becomes a zero byte. A String gets shorter and
+/// keeps its capacity.
+///@{
+ZEPH_API void Zeph_Del_TailSpace(char* text);
+ZEPH_API void Zeph_Del_TailSpace(std::string& text);
+///@}
+
+/// Takes the blanks off the start; the rest moves down. The blank is the byte 0x20 alone.
+///
+/// In a byte text the bytes from the new terminator up to the old one are zero, as if the blanks
+/// had been taken out one by one; what stands behind the old terminator stays as it was. A String
+/// gets shorter and keeps its capacity.
+///@{
+ZEPH_API void Zeph_Del_HeadSpace(char* text);
+ZEPH_API void Zeph_Del_HeadSpace(std::string& text);
+///@}
+
+/// Takes the blanks off both ends, as Zeph_Del_HeadSpace() and then Zeph_Del_TailSpace() do. Blanks
+/// inside stay; a text of blanks becomes the empty text.
+///@{
+ZEPH_API void Zeph_Trimed(char* text);
+ZEPH_API void Zeph_Trimed(std::string& text);
+///@}
+
+/// @}
+
+/// @defgroup search Search
+/// Where does a pattern stand in a byte text?
+///
+/// Positions count from 0 at the first byte of the whole text, in the members with a range too. The
+/// first match from the left is found. An empty pattern stands nowhere, not even in an empty text.
+///
+/// With `start` and `end`, all bytes of a match must stand at indexes from `start` up to, and not
+/// including, `end` or the end of the text, whichever is less. An `end` at or below `start`, or a
+/// `start` at or behind the end of the text, finds nothing; a negative `start` acts as 0. Nothing
+/// at or behind index `end` is read, so that the text needs no terminator before it.
+///
+/// The cost is linear in the text and the pattern, whatever they hold; nothing is allocated.
+///
+///     Orbane::Zeph_Find_Position("hello", "lo");          // 3
+///     Orbane::Zeph_Find_Position("hello", 0, 4, "lo");    // -1: the match needs index 4
+///     Orbane::Zeph_Find_Position_L("Alarm set", "ALARM");  // 0
+/// @{
+
+/// Returns the index of the first match, -1 if there is none. A match that starts behind the
+/// largest `int` is not found.
+///@{
+ZEPH_API int Zeph_Find_Position(const char* text, const char* pattern);
+ZEPH_API int Zeph_Find_Position(const char* text, int start, int end, const char* pattern);
+///@}
+
+/// As Zeph_Find_Position(), with two bytes equal if they are equal after folding to lower case. The
+/// fold looks at single bytes and follows the process's locale; in the "C" locale it folds the
+/// ASCII letters and nothing else.
+///@{
+ZEPH_API int Zeph_Find_Position_L(const char* text, const char* pattern);
+ZEPH_API int Zeph_Find_Position_L(const char* text, int start, int end, const char* pattern);
+///@}
+
+/// Returns whether Zeph_Find_Position() finds the pattern.
+///@{
+ZEPH_API bool Zeph_Find_SubString(const char* text, const char* pattern);
+ZEPH_API bool Zeph_Find_SubString(const char* text, int start, int end, const char* pattern);
+///@}
+
+/// Returns whether Zeph_Find_Position_L() finds the pattern.
+///@{
+ZEPH_API bool Zeph_Find_SubString_L(const char* text, const char* pattern);
+ZEPH_API bool Zeph_Find_SubString_L(const char* text, int start, int end, const char* pattern);
+///@}
+
+/// @}
+
 /// @defgroup slices Slices
 /// A piece of a text by position, between two delimiter bytes, in front of or behind a marker, and
 /// the last component of a path.
@@ -484,13 +595,13 @@ ZEPH_API void Zeph_Join(const std::vector<std::string>& list, char delimiter, st
 /// @defgroup numbers Numbers
 /// Is a text a number, and which? Three strictness levels for reading, and real numbers as texts.
 ///
-/// |                      | strict: `Check`, `To`        | lenient: `Ext_*` | filter: `HexStr` |
-/// |----------------------|------------------------------|------------------|------------------|
-/// | a foreign byte       | refuses the text             | ends the number  | is skipped       |
-/// | blanks in front      | refused                      | skipped          | skipped          |
-/// | "+5" as integer      | refused                      | 5                | 5                |
-/// | "0x1F" as integer    | 31                           | 0                | 31               |
-/// | no digit             | integer 0; no real number    | 0                | 0                |
+/// |                | strict: Check, To         | lenient: Ext_..._From_Str | filter: HexStr |
+/// |----------------|---------------------------|---------------------------|----------------|
+/// | a foreign byte | refuses the text          | ends the number           | is skipped     |
+/// | blanks ahead   | refused                   | skipped                   | skipped        |
+/// | integer "+5"   | refused                   | 5                         | 5              |
+/// | integer "0x1F" | 31                        | 0                         | 31             |
+/// | no digit       | integers 0, reals refused | 0                         | 0              |
 ///
 /// *Bounds*: a value passes if `minimum <= value <= maximum`. Two equal bounds are no bound at all:
 /// (5, 5) does not ask for the value 5. A minimum above the maximum refuses every value. The value
@@ -657,6 +768,8 @@ ZEPH_API double Zeph_Ext_Dbl_From_Str(const char* text, int start, int count, ch
 ///     Orbane::Zeph_Conv_Dbl_To_Str(1234.5678, 2, text);   // "1234.57"
 ///     Orbane::Zeph_Conv_Dbl_To_Str(1234.5678, -2, text);  // "1.23e+03"
 ZEPH_API void Zeph_Conv_Dbl_To_Str(double value, int precision, char* const out);
+
+/// @}
 
 /// @defgroup replace Replace and remove
 /// Bytes and pieces of a text are replaced or cut out in place, byte by byte exactly.
@@ -827,6 +940,50 @@ ZEPH_API void Zeph_Strcat_Alarm_Append_Text(char* text1, const char* text2, cons
                                             const char* text4, const char* text5,
                                             const char* text6);
 ///@}
+
+/// @}
+
+/// @defgroup dump Dumps and message names
+/// Bytes shown as hexadecimal numbers, and message names of the form S1F13.
+/// @{
+
+/// Shows bytes as a row of hexadecimal numbers with one blank between two of them. Without `count`
+/// the bytes are a byte text; with it, they are `count` bytes, zero bytes among them, and a `count`
+/// below 1 gives the empty text.
+///
+/// The two kinds of results differ in style: a String has lower-case digits, as few as a byte
+/// needs; an owned buffer has upper-case digits, two for each byte:
+///
+/// | bytes       | String      | owned buffer  |
+/// |-------------|-------------|---------------|
+/// | 48 0A FF 00 | "48 a ff 0" | "48 0A FF 00" |
+///
+/// `*buffer` is an owned buffer, NULL or a block, which Zeph_Prepare_Mem() makes hold
+/// 3 * the number of bytes + 1 bytes; a block that has them is kept. The bytes to show must not lie
+/// in it. Returns `*buffer`, which the caller ends with Zeph_Release_Mem(). If the heap refuses,
+/// its report is Zeph_Prepare_Mem()'s, and the result is NULL.
+///@{
+ZEPH_API std::string Zeph_To_Ascii(const char* text);
+ZEPH_API std::string Zeph_To_Ascii(const char* bytes, int count);
+ZEPH_API char* Zeph_To_Ascii(const char* text, char** buffer);
+ZEPH_API char* Zeph_To_Ascii(const char* bytes, int count, char** buffer);
+///@}
+
+/// Reads a message name: 'S', a number, 'F', a number, as the standard SECS-II (SEMI E5) names a
+/// message by its stream and function. The letters may be of either case, as Zeph_Find_Position_L()
+/// finds them; the first 'F' of the text ends the stream number. Both numbers follow the grammar of
+/// Zeph_To_Int() and lie in 0 to 255: "S01F002", "S0x10F0xFF" and "S-0F1" are names, and so is
+/// "S-F1", whose stream is 0.
+///
+/// Returns true and stores the numbers, each where its pointer is not NULL. Otherwise returns false
+/// and leaves both untouched; any byte in front of the S means false.
+///
+/// Takes a work buffer for each number. If the heap refuses one, it is reported as "[Zeph] Memory
+/// calloc Fail in Zeph_Prepare_Mem", and the result is false.
+///
+///     unsigned char stream, function;
+///     Orbane::Zeph_Check_SxxFxx("S6F11", &stream, &function);  // true, 6 and 11
+ZEPH_API bool Zeph_Check_SxxFxx(const char* text, unsigned char* stream, unsigned char* function);
 
 /// @}
 

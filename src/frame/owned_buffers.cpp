@@ -32,6 +32,20 @@ char* request_work_buffer(std::size_t size) {
   return block;
 }
 
+bool prepare_block(char*& block, std::size_t size) {
+  if (block) {
+    const std::size_t capacity = block_capacity(block);
+    if (capacity == unknown_block) {
+      Diag_Banner("[Zeph] Invalid pointer in Zeph_Prepare_Mem");
+      return false;
+    }
+    if (size <= capacity) return true;
+    release_block(block);
+  }
+  block = request_work_buffer(size);
+  return block != nullptr;
+}
+
 namespace {
 
 void report_refused_copy(const char* source) {
@@ -103,23 +117,13 @@ bool Zeph_Copy_Mem(char* target, int start, const char* source, int count) {
 }
 
 bool Zeph_Prepare_Mem(char** buffer, int size) {
-  if (*buffer) {
-    const std::size_t capacity = zeph::block_capacity(*buffer);
-    if (capacity == zeph::unknown_block) {
-      zeph::Diag_Banner("[Zeph] Invalid pointer in Zeph_Prepare_Mem");
-      return false;
-    }
-    if (size < 0 || static_cast<std::size_t>(size) <= capacity) return true;
-    zeph::release_block(*buffer);
-  }
   // As an unsigned size, a negative one is beyond what any heap grants. The heap is not even asked:
   // checking heaps take such a request for a fault and stop the process.
-  if (size < 0) {
+  if (size < 0 && !*buffer) {
     zeph::report_refused_work_buffer();
     return false;
   }
-  *buffer = zeph::request_work_buffer(static_cast<std::size_t>(size));
-  return *buffer != nullptr;
+  return zeph::prepare_block(*buffer, size < 0 ? 0 : static_cast<std::size_t>(size));
 }
 
 void Zeph_Release_Mem(char** buffer) {

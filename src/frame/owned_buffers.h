@@ -19,6 +19,10 @@ void report_refused_work_buffer();
 // One request for a work buffer. A refusal is reported, and NULL returned.
 char* request_work_buffer(std::size_t size);
 
+// The core of Zeph_Prepare_Mem: a block that is there and has the capacity stays, another one takes
+// its place otherwise. Reports a refusal of the heap, or a block that it does not know.
+bool prepare_block(char*& block, std::size_t size);
+
 // `count` work buffers of one size that live inside one call. They are requested and freed in
 // order; each refused request is reported and the others are made all the same.
 template <std::size_t count>

@@ -1,87 +1,133 @@
+// A filter looks for places where two bytes of the needle meet; only there the needle is compared.
+// Each false place teaches the filter the byte that told it apart, which takes the sting out of
+// most repetitive texts. A budget on the false places keeps the rest linear: when it is spent, the
+// two-way algorithm goes on.
 #include "scan/find_needle.h"
 
-#include <algorithm>
 #include <cstring>
+
+#include "scan/ascii_fold.h"
+#include "scan/find_pair.h"
+#include "scan/two_way.h"
+#include "scan/wide.h"
 
 namespace zeph {
 namespace {
 
 using View = std::string_view;
 
-// Where a needle is cut in two, and the period of its second half.
-struct Factorization {
-  std::size_t cut, period;
+struct ExactFold {
+  unsigned char operator()(char byte) const {
+    return static_cast<unsigned char>(byte);
+  }
+  static Probe probe(View needle, std::size_t offset) {
+    return {offset, needle[offset], 0};
+  }
+#ifdef ZEPH_SCAN_SSE2
+  static __m128i wide(__m128i bytes) {
+    return bytes;
+  }
+#endif
 };
 
-// The largest suffix of the needle in the order of the bytes, or in the reversed order.
-Factorization largest_suffix(View needle, bool reversed) {
-  std::size_t suffix = 0, candidate = 1, matched = 0, period = 1;
-  while (candidate + matched < needle.size()) {
-    const auto a = static_cast<unsigned char>(needle[candidate + matched]);
-    const auto b = static_cast<unsigned char>(needle[suffix + matched]);
-    if (a == b) {
-      if (++matched == period) {
-        candidate += period;
-        matched = 0;
-      }
-    } else if ((a < b) != reversed) {
-      candidate += matched + 1;
-      matched = 0;
-      period = candidate - suffix;
-    } else {
-      suffix = candidate++;
-      matched = 0;
-      period = 1;
-    }
+struct AsciiFold {
+  unsigned char operator()(char byte) const {
+    return static_cast<unsigned char>(ascii_fold(LetterCase::lower, byte));
   }
-  return {suffix, period};
+  static Probe probe(View needle, std::size_t offset) {
+    const char lower = ascii_fold(LetterCase::lower, needle[offset]);
+    const bool letter = ascii_fold(LetterCase::upper, lower) != lower;
+    return {offset, lower, static_cast<char>(letter ? 0x20 : 0)};
+  }
+#ifdef ZEPH_SCAN_SSE2
+  static __m128i wide(__m128i bytes) {
+    return other_case_16(bytes, first_folded(LetterCase::lower));
+  }
+#endif
+};
+
+struct TableFold {
+  const unsigned char* table;
+  unsigned char operator()(char byte) const {
+    return table[static_cast<unsigned char>(byte)];
+  }
+};
+
+// How many bytes are equal in front of the first difference.
+template <typename Fold>
+std::size_t common_front(const char* a, const char* b, std::size_t size, Fold fold) {
+  std::size_t i = 0;
+#ifdef ZEPH_SCAN_SSE2
+  for (; size - i >= 16; i += 16) {
+    const __m128i equal = _mm_cmpeq_epi8(Fold::wide(load_16(a + i)), Fold::wide(load_16(b + i)));
+    if (const unsigned others = bits_of(equal) ^ 0xFFFF) return i + lowest_bit(others);
+  }
+#endif
+  while (i < size && fold(a[i]) == fold(b[i])) ++i;
+  return i;
 }
 
-Factorization factorize(View needle) {
-  const Factorization up = largest_suffix(needle, false);
-  const Factorization down = largest_suffix(needle, true);
-  return up.cut > down.cut ? up : down;
+// The cost of false places, in bytes compared: a place alone costs about as much as 128 of them,
+// and 64 for each byte passed are what the two-way algorithm would have cost there.
+class Budget {
+ public:
+  bool spent_by(std::size_t compared, std::size_t passed) {
+    used_ += 128 + compared;
+    return used_ / 64 > 128 + passed;
+  }
+
+ private:
+  std::size_t used_ = 0;
+};
+
+// Tries the places from `from` on. The needle is not empty and no longer than the haystack.
+template <typename Fold>
+std::size_t find_filtered(View haystack, View needle, std::size_t from, Fold fold) {
+  const std::size_t count = haystack.size() - needle.size() + 1;
+  ProbePair pair{Fold::probe(needle, 0), Fold::probe(needle, needle.size() - 1)};
+  Budget budget;
+  for (std::size_t at = from;; ++at) {
+    at = find_pair(haystack.data(), at, count, pair);
+    if (at == count) return View::npos;
+    const char* const here = haystack.data() + at;
+    const std::size_t same = common_front(here, needle.data(), needle.size(), fold);
+    if (same == needle.size()) return at;
+    if (budget.spent_by(same, at - from)) {
+      haystack.remove_prefix(at);
+      const std::size_t found = find_two_way(haystack, needle, fold);
+      return found == View::npos ? found : at + found;
+    }
+    pair = {pair.b, Fold::probe(needle, same)};
+  }
 }
 
 }  // namespace
 
-// The two-way search of Crochemore and Perrin: the half behind the cut is compared to the right,
-// then the half in front of it to the left. A mismatch in the first shifts by what was compared, a
-// mismatch in the second by the needle's period. A periodic needle remembers what a shift by its
-// period leaves known, so that no byte is compared again and again.
-std::size_t find_needle_portable(View haystack, View needle) {
-  const std::size_t size = needle.size();
-  const auto [cut, period] = factorize(needle);
-  const bool periodic = needle.compare(0, cut, needle.substr(period), 0, cut) == 0;
-  const std::size_t shift = periodic ? period : std::max(cut, size - cut) + 1;
-  std::size_t known = 0;
-  for (std::size_t at = 0; at + size <= haystack.size();) {
-    const char* const here = haystack.data() + at;
-    std::size_t i = std::max(cut, known);
-    while (i < size && needle[i] == here[i]) ++i;
-    if (i < size) {
-      at += i - cut + 1;
-      known = 0;
-      continue;
-    }
-    i = cut;
-    while (i > known && needle[i - 1] == here[i - 1]) --i;
-    if (i <= known) return at;
-    at += shift;
-    known = periodic ? size - period : 0;
-  }
-  return View::npos;
+// The runtime's search for one byte is the fastest there is: a rare first byte needs no more.
+std::size_t find_needle(View haystack, View needle) {
+  if (needle.empty()) return 0;
+  if (needle.size() > haystack.size()) return View::npos;
+  const std::size_t count = haystack.size() - needle.size() + 1;
+  const void* const first = std::memchr(haystack.data(), needle[0], count);
+  if (!first) return View::npos;
+  const char* const here = static_cast<const char*>(first);
+  const auto at = static_cast<std::size_t>(here - haystack.data());
+  if (std::memcmp(here, needle.data(), needle.size()) == 0) return at;
+  return find_filtered(haystack, needle, at + 1, ExactFold());
 }
 
-std::size_t find_needle(View haystack, View needle) {
-  if (needle.size() < 2) return haystack.find(needle);
-#ifdef ZEPH_HAS_MEMMEM
-  const void* const found = memmem(haystack.data(), haystack.size(), needle.data(), needle.size());
-  if (!found) return View::npos;
-  return static_cast<std::size_t>(static_cast<const char*>(found) - haystack.data());
-#else
-  return find_needle_portable(haystack, needle);
-#endif
+std::size_t find_needle_ignoring_case(View haystack, View needle) {
+  if (needle.empty()) return 0;
+  if (needle.size() > haystack.size()) return View::npos;
+  return find_filtered(haystack, needle, 0, AsciiFold());
+}
+
+std::size_t find_needle_by_table(View haystack, View needle, const unsigned char* table) {
+  return needle.empty() ? 0 : find_two_way(haystack, needle, TableFold{table});
+}
+
+std::size_t find_needle_portable(View haystack, View needle) {
+  return needle.empty() ? 0 : find_two_way(haystack, needle, ExactFold());
 }
 
 }  // namespace zeph

@@ -13,7 +13,8 @@ namespace {
 constexpr std::size_t longest_stamp = 7 * longest_field + sizeof "// ::." - 1;
 
 char* put_year(char* to, int year, int width) {
-  return year >= 1000 ? put_field<4>(to, year) : put_padded(to, year, width);
+  if (year >= 1000 && year <= 9999) return put_field<4>(to, year);
+  return put_padded(to, year, width);
 }
 
 char* put_date(char* to, const LocalTime& time, int year_width) {

@@ -3,6 +3,7 @@
 #include <climits>
 #include <string>
 
+#include "fields/fields_table.h"
 #include "fields/split_harness.h"
 #include "zeph.h"
 
@@ -34,46 +35,10 @@ Fields model(std::size_t count, const std::string& text, std::size_t limit) {
   return fields;
 }
 
-const struct {
-  const char* why;
-  std::size_t count;
-  char delimiter;
-  const char* text;
-  int limit;
-  Fields fields;
-} rows[] = {
-    {"the rest goes to the last",
-     3,
-     ',',
-     "red,green,blue,black",
-     16,
-     {"red", "green", "blue,black"}},
-    {"two delimiters, an empty field", 3, ',', "red,,green", 16, {"red", "", "green"}},
-    {"delimiter at the start", 3, ',', ",red,green", 16, {"", "red", "green"}},
-    {"delimiter at the end", 3, ',', "red,green,", 16, {"red", "green", ""}},
-    {"empty", 3, ',', "", 16, {"", "", ""}},
-    {"too few", 4, ',', "red,green", 16, {"red", "green", "", ""}},
-    {"every field is cut, the split goes on",
-     3,
-     ',',
-     "redgreen,blue,cyan",
-     3,
-     {"red", "blu", "cya"}},
-    {"blank as delimiter", 3, ' ', "red green  blue", 16, {"red", "green", " blue"}},
-    {"zero is never found", 2, '\0', "red", 16, {"red", ""}},
-    {"delimiter from 0x80",
-     2,
-     '\xC4',
-     "a\xC4"
-     "b",
-     16,
-     {"a", "b"}},
-};
-
 }  // namespace
 
 TEST(CharFields, Rows) {
-  each_row(rows, [](const auto& row) {
+  each_row(char_rows, [](const auto& row) {
     expect_split(AtDelimiter{row.delimiter}, row.count, row.text,
                  static_cast<std::size_t>(row.limit), row.fields);
   });

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "fields/fields_table.h"
 #include "support/refusing_heap.h"
 #include "support/table.h"
 #include "zeph.h"
@@ -30,20 +31,7 @@ TEST(Lists, SplitAgainstGetline) {
 }
 
 TEST(Lists, JoinPutsTheDelimiterBetweenItems) {
-  const struct {
-    const char* why;
-    List list;
-    const char* joined;
-  } rows[] = {
-      {"none", {}, ""},
-      {"one", {"red"}, "red"},
-      {"two", {"red", "green"}, "red,green"},
-      {"empty first", {"", "red"}, ",red"},
-      {"empty last", {"red", ""}, "red,"},
-      {"one empty", {""}, ""},
-      {"two empty", {"", ""}, ","},
-  };
-  each_row(rows, [](const auto& row) {
+  each_row(join_rows, [](const auto& row) {
     std::string out = "former";
     Orbane::Zeph_Join(row.list, ',', out);
     EXPECT_EQ(out, row.joined);

@@ -13,14 +13,13 @@
 #include <utility>
 #include <vector>
 
+#include "fields/fields_table.h"
 #include "support/guarded_buffer.h"
 #include "support/refusing_heap.h"
 #include "support/stdout_capture.h"
 #include "support/table.h"
 
 namespace zeph_test {
-
-using Fields = std::vector<std::string>;
 
 template <typename Family, typename Text, typename Outputs, std::size_t... i>
 void call_split(Family family, Text&& text, int limit, Outputs& outputs,

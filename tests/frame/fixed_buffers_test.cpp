@@ -4,6 +4,7 @@
 #include <climits>
 #include <string>
 
+#include "frame/buffers_table.h"
 #include "support/guarded_buffer.h"
 #include "support/table.h"
 #include "zeph.h"
@@ -11,17 +12,7 @@
 using namespace zeph_test;
 
 TEST(CopyStack, TextIsCutAtTheRoom) {
-  const struct {
-    const char* why;
-    const char* source;
-    int size;
-    const char* result;
-  } rows[] = {
-      {"cut", "abcdef", 4, "abc"},        {"fits to the byte", "abc", 4, "abc"},
-      {"terminator alone", "abc", 1, ""}, {"NULL is the empty text", nullptr, 2, ""},
-      {"room to spare", "ab", 100, "ab"},
-  };
-  each_row(rows, [](const auto& row) {
+  each_row(cut_texts, [](const auto& row) {
     GuardedBuffer target(static_cast<std::size_t>(row.size));
     EXPECT_TRUE(Orbane::Zeph_Copy_Stack(target.data(), row.source, row.size));
     EXPECT_STREQ(target.data(), row.result);
@@ -34,22 +25,7 @@ TEST(CopyStack, TextIsCutAtTheRoom) {
 }
 
 TEST(CopyStack, NumbersAreCutAtTheRoom) {
-  const std::string largest = "1797693134862315";
-  const struct {
-    const char* why;
-    int integer;
-    double real;
-    int size;
-    const char* integer_text;
-    const char* real_text;
-  } rows[] = {
-      {"six digits behind the point", 0, 1.5, 9, "0", "1.500000"},
-      {"cut", 12345, 2.25, 4, "123", "2.2"},
-      {"lowest", INT_MIN, -0.0, 12, "-2147483648", "-0.000000"},
-      {"highest", INT_MAX, DBL_MAX, 17, "2147483647", largest.c_str()},
-      {"terminator alone", 7, 7.0, 1, "", ""},
-  };
-  each_row(rows, [](const auto& row) {
+  each_row(cut_numbers, [](const auto& row) {
     GuardedBuffer integer(static_cast<std::size_t>(row.size));
     GuardedBuffer real(static_cast<std::size_t>(row.size));
     EXPECT_TRUE(Orbane::Zeph_Copy_Stack(integer.data(), row.integer, row.size));

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <string>
 
+#include "frame/buffers_table.h"
 #include "support/guarded_buffer.h"
 #include "support/refusing_heap.h"
 #include "support/stdout_capture.h"
@@ -63,18 +64,7 @@ TEST(CopyMem, DecidesByTheHeldText) {
 
 TEST(CopyMem, RefusedBlockIsReported) {
   REQUIRE_REFUSING_HEAP;
-  const struct {
-    const char* why;
-    const char* held;
-    const char* source;
-    const char* message;
-  } rows[] = {
-      {"text", nullptr, "a%d", "[Zeph] Memory calloc Fail in STR_MEM_MAKE_COPY <= [a%d]"},
-      {"NULL", nullptr, nullptr, "[Zeph] Memory calloc Fail in STR_MEM_MAKE_COPY <= NULL"},
-      {"the old block is gone", "a", "ab",
-       "[Zeph] Memory calloc Fail in STR_MEM_MAKE_COPY <= [ab]"},
-  };
-  each_row(rows, [](const auto& row) {
+  each_row(refused_copies, [](const auto& row) {
     Owned owned;
     if (row.held) Orbane::Zeph_Copy_Mem(&owned.block, row.held);
     RefusingHeap heap;
@@ -89,32 +79,7 @@ TEST(CopyMem, RefusedBlockIsReported) {
 }
 
 TEST(Overlay, WritesInsideTheTextOnly) {
-  const char* const pointer = "[Zeph] Invalid pointer in Zeph_Copy_Mem";
-  const char* const index = "[Zeph] StartIndex out of bounds in Zeph_Copy_Mem";
-  const char* const bounds =
-      "[Zeph] Copy operation would exceed SourceString bounds in Zeph_Copy_Mem";
-  const struct {
-    const char* why;
-    const char* target;
-    int start;
-    const char* source;
-    int count;
-    const char* report;  // NULL where the bytes are written
-    const char* result;
-  } rows[] = {
-      {"up to the terminator", "abcd", 2, "XY", -1, nullptr, "abXY"},
-      {"one too far", "abcd", 3, "XY", -1, bounds, "abcd"},
-      {"on the terminator", "abcd", 4, "XY", -1, index, "abcd"},
-      {"negative start", "abcd", -1, "XY", -1, index, "abcd"},
-      {"empty target", "", 0, "", 0, index, ""},
-      {"count cuts", "abcd", 3, "XY", 1, nullptr, "abcX"},
-      {"count 0", "abcd", 0, "XY", 0, nullptr, "abcd"},
-      {"count beyond the source", "abcd", 0, "XY", 9, nullptr, "XYcd"},
-      {"least count", "abcd", 1, "XY", INT_MIN, nullptr, "aXYd"},
-      {"no source", "abcd", 9, nullptr, 1, pointer, "abcd"},
-      {"no target", nullptr, 0, "XY", 1, pointer, nullptr},
-  };
-  each_row(rows, [](const auto& row) {
+  each_row(overlays, [](const auto& row) {
     GuardedText target(row.target ? row.target : "");
     GuardedText source(row.source ? row.source : "");
     StdoutCapture capture;

@@ -6,6 +6,7 @@
 #include <new>
 #include <string>
 
+#include "rewrite/rewrite_table.h"
 #include "support/guarded_buffer.h"
 #include "support/table.h"
 #include "zeph.h"
@@ -90,23 +91,7 @@ TEST(Splicing, SizeBoundsTheText) {
 }
 
 TEST(AlarmText, JoinsHalfByHalf) {
-  const struct {
-    const char* why;
-    std::vector<std::string> texts;
-    const char* result;
-  } rows[] = {
-      {"both have two halves", {"a1|b1", "a2|b2"}, "a1 a2|b1 b2"},
-      {"neither has", {"a1", "a2"}, "a1 a2|a1 a2"},
-      {"each makes up for its own", {"a1|b1", "a2"}, "a1 a2|b1 a2"},
-      {"an empty first half stays", {"x|", "|y"}, "x |x y"},
-      {"both empty", {"", ""}, " | "},
-      {"a second '|' is text", {"p|q|r", "s"}, "p s|q|r s"},
-      {"three", {"a|b", "c", "e|f"}, "a c e|b c f"},
-      {"four", {"a", "b", "c", "d|e"}, "a b c d|a b c e"},
-      {"five", {"a|1", "b|2", "c|3", "d|4", "e|5"}, "a b c d e|1 2 3 4 5"},
-      {"six", {"a|1", "b|2", "c|3", "d|4", "e|5", ""}, "a b c d e |1 2 3 4 5 "},
-  };
-  each_row(rows, [](const auto& row) {
+  each_row(alarm_rows, [](const auto& row) {
     const std::size_t size = std::max(row.texts[0].size(), std::string(row.result).size());
     EXPECT_EQ(join(row.texts, size + 1), row.result);
   });

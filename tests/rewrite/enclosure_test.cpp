@@ -3,6 +3,7 @@
 #include <climits>
 #include <string>
 
+#include "rewrite/rewrite_table.h"
 #include "support/guarded_buffer.h"
 #include "support/table.h"
 #include "zeph.h"
@@ -10,34 +11,7 @@
 using namespace zeph_test;
 
 TEST(Enclosure, EachEndByItself) {
-  const struct {
-    const char* why;
-    const char* text;
-    const char* quotes;    // Zeph_Remove_QuoteMark
-    const char* brackets;  // Zeph_Remove_Bracket
-    const char* mark;      // Zeph_Remove_HeadTail with 'x'
-  } rows[] = {
-      {"empty", "", "", "", ""},
-      {"no marks", "ab", "ab", "ab", "ab"},
-      {"marks inside stay", "a\"(x)'b", "a\"(x)'b", "a\"(x)'b", "a\"(x)'b"},
-      {"nothing pairs the quotes", "\"ab'", "ab", "\"ab'", "\"ab'"},
-      {"head alone", "'ab", "ab", "'ab", "'ab"},
-      {"one byte at each end", "\"\"ab\"\"", "\"ab\"", "\"\"ab\"\"", "\"\"ab\"\""},
-      {"one quote", "\"", "", "\"", "\""},
-      {"two quotes", "''", "", "''", "''"},
-      {"nothing pairs the brackets", "<ab]", "<ab]", "ab", "<ab]"},
-      {"outer brackets", "((ab))", "((ab))", "(ab)", "((ab))"},
-      {"tail alone", "ab}", "ab}", "ab", "ab}"},
-      {"square", "[ab)", "[ab)", "ab", "[ab)"},
-      {"curly", "{ab>", "{ab>", "ab", "{ab>"},
-      {"one opening bracket", "(", "(", "", "("},
-      {"one closing bracket stays", ")", ")", ")", ")"},
-      {"a closing bracket is no head", ")ab(", ")ab(", ")ab(", ")ab("},
-      {"a named mark", "xabx", "xabx", "xabx", "ab"},
-      {"one named mark", "x", "x", "x", ""},
-      {"two named marks", "xx", "xx", "xx", ""},
-  };
-  each_row(rows, [](const auto& row) {
+  each_row(enclosed, [](const auto& row) {
     std::string quotes = row.text, brackets = row.text, mark = row.text;
     Orbane::Zeph_Remove_QuoteMark(quotes);
     Orbane::Zeph_Remove_Bracket(brackets);
@@ -60,23 +34,7 @@ TEST(Enclosure, EachEndByItself) {
 }
 
 TEST(Enclosure, StringCheckDiffersBetweenItsForms) {
-  const struct {
-    const char* why;
-    const char* text;
-    const char* bytes;   // byte text, in place
-    const char* string;  // String, in place and to an output
-    bool both;
-  } rows[] = {
-      {"both ends", "\"ab\"", "ab", "ab", true},
-      {"head", "\"ab", "\"ab", "ab", false},
-      {"tail", "ab\"", "ab\"", "ab", false},
-      {"none", "ab", "ab", "ab", false},
-      {"two quotes", "\"\"", "", "", true},
-      {"one quote", "\"", "\"", "", false},
-      {"empty", "", "", "", false},
-      {"single quotes", "'ab'", "'ab'", "'ab'", false},
-  };
-  each_row(rows, [](const auto& row) {
+  each_row(quoted, [](const auto& row) {
     GuardedText bytes(row.text);
     Orbane::Zeph_String_Check(bytes.data());
     EXPECT_STREQ(bytes.data(), row.bytes);

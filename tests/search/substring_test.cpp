@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "search/slices_table.h"
 #include "support/guarded_buffer.h"
 #include "support/table.h"
 #include "zeph.h"
@@ -13,24 +14,6 @@ using namespace zeph_test;
 namespace {
 
 // "refused" stands for a false result, "thrown" for the exception.
-const struct {
-  const char* why;
-  const char* text;
-  int start, count;
-  const char* bytes;   // Zeph_Get_SubString on the byte text
-  const char* string;  // and on the String
-  const char* loose;   // Zeph_Ext_Str_From_Str on the String
-} slices[] = {
-    {"inside", "hello", 1, 3, "ell", "ell", "ell"},
-    {"cut at the end", "hello", 1, 99, "ello", "ello", "ello"},
-    {"negative count", "hello", 1, INT_MIN, "ello", "ello", "ello"},
-    {"count 0", "hello", 1, 0, "", "", ""},
-    {"last byte", "hello", 4, 1, "o", "o", "o"},
-    {"start at the end", "hello", 5, 1, "refused", "refused", ""},
-    {"start behind the end", "hello", 6, 1, "refused", "refused", "thrown"},
-    {"empty text", "", 0, 1, "refused", "refused", ""},
-    {"negative start", "hello", -1, 1, "refused", "thrown", "thrown"},
-};
 
 template <typename Call>
 std::string outcome(const std::string& text, Call call) {
@@ -88,21 +71,7 @@ TEST(SubString, UncheckedSliceTakesWhatItIsTold) {
 }
 
 TEST(SubString, BetweenDelimiters) {
-  const struct {
-    const char* why;
-    const char* text;
-    char open, close;
-    const char* between;
-  } rows[] = {
-      {"plain", "a(b)c", '(', ')', "b"},
-      {"neighbours", "()", '(', ')', "refused"},
-      {"close in front of open", ")a(b)", '(', ')', "refused"},
-      {"first of each", "(a(b))", '(', ')', "a(b"},
-      {"no close", "(a", '(', ')', "refused"},
-      {"no open", "a)", '(', ')', "refused"},
-      {"one byte for both", "|a|", '|', '|', "refused"},
-  };
-  each_row(rows, [](const auto& row) {
+  each_row(delimited, [](const auto& row) {
     const auto cut = [&](std::string& s) {
       return Orbane::Zeph_Get_SubString(s, row.open, row.close, s);
     };
@@ -111,26 +80,7 @@ TEST(SubString, BetweenDelimiters) {
 }
 
 TEST(SubString, LastPathComponent) {
-  const struct {
-    const char* why;
-    const char* path;
-    int size;
-    const char* name;
-  } rows[] = {
-      {"mixed separators", "c:\\dir/file.txt", 8, "file.txt"},
-      {"backslash last", "c:/dir\\f", 8, "f"},
-      {"no separator", "file", 8, "file"},
-      {"nothing behind", "dir/", 8, ""},
-      {"empty", "", 8, ""},
-      {"cut", "dir/file.txt", 4, "file"},
-      {"size 0", "dir/file.txt", 0, ""},
-      {"negative size", "dir/file.txt", INT_MIN, ""},
-      {"second half of a character",
-       "\xC4\x5C"
-       "b",
-       8, "b"},
-  };
-  each_row(rows, [](const auto& row) {
+  each_row(paths, [](const auto& row) {
     GuardedText path(row.path);
     GuardedText front(row.path, End::terminated, Edge::front);
     GuardedBuffer out(row.size > 0 ? static_cast<std::size_t>(row.size) + 1 : 1);

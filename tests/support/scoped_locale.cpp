@@ -13,26 +13,32 @@ namespace {
 
 #ifdef _WIN32
 
-void make_locale(const std::string&, const std::string&, const std::string&) {}
+// The runtime has all locales; its names are of another form.
+bool make_locale(const std::string&, const std::string&, const std::string&) {
+  return false;
+}
 
 #else
 
 // Makes the locale with localedef and lets the runtime look for it. Tests that run side by side
 // each make their own; the first one to be ready stays.
-void make_locale(const std::string& name, const std::string& language,
+bool make_locale(const std::string& name, const std::string& language,
                  const std::string& encoding) {
   namespace fs = std::filesystem;
   const fs::path folder = fs::current_path() / "locales";
-  const fs::path draft = folder / (name + "." + std::to_string(getpid()));
-  setenv("LOCPATH", folder.c_str(), 1);
-  if (fs::exists(folder / name)) return;
+  const fs::path made = folder / name;
   std::error_code error;
-  fs::create_directories(folder, error);
-  const std::string options = "-c -i " + language + " -f " + encoding;
-  const std::string command = "localedef " + options + " '" + draft.string() + "' >/dev/null 2>&1";
-  if (std::system(command.c_str()) == -1) return;
-  fs::rename(draft, folder / name, error);
-  fs::remove_all(draft, error);
+  if (!fs::exists(made)) {
+    const fs::path draft = folder / (name + "." + std::to_string(getpid()));
+    fs::create_directories(folder, error);
+    const std::string command = "localedef -c -i " + language + " -f " + encoding + " '" +
+                                draft.string() + "' >/dev/null 2>&1";
+    if (std::system(command.c_str()) == -1) return false;
+    fs::rename(draft, made, error);
+    fs::remove_all(draft, error);
+  }
+  setenv("LOCPATH", folder.c_str(), 1);
+  return fs::exists(made);
 }
 
 #endif
@@ -43,8 +49,7 @@ ScopedLocale::ScopedLocale(int category, const std::string& language, const std:
     : category_(category) {
   const std::string name = language + "." + encoding;
   if (std::setlocale(category, name.c_str())) return;
-  make_locale(name, language, encoding);
-  if (std::setlocale(category, name.c_str())) return;
+  if (make_locale(name, language, encoding) && std::setlocale(category, name.c_str())) return;
   reason_ = "no locale " + name + ": not installed, and localedef cannot make it";
 }
 

@@ -1,0 +1,115 @@
+// Case and blanks against the loops that a user writes.
+#include <algorithm>
+#include <cctype>
+#include <cstring>
+#include <string>
+
+#include "bench.h"
+#include "zeph.h"
+
+namespace zeph_bench {
+namespace {
+
+struct Text {
+  std::string source, room;
+};
+
+std::string prose(std::size_t size) {
+  std::string text;
+  while (text.size() < size) text += "Chamber Pressure 0.75 mTorr; ";
+  text.resize(size);
+  return text;
+}
+
+std::string size_text(std::size_t size) {
+  return size < 1024 ? std::to_string(size) + " bytes" : std::to_string(size / 1024) + " KiB";
+}
+
+// ---- the peers ----
+
+[[gnu::noinline]] int lower_by_tolower(const char* from, char* to) {
+  for (; *from != '\0'; ++from, ++to) {
+    *to = static_cast<char>(std::tolower(static_cast<unsigned char>(*from)));
+  }
+  *to = '\0';
+  return 0;
+}
+
+// Written so that the compiler makes wide instructions of it.
+[[gnu::noinline]] int lower_by_wide_loop(const char* from, char* to) {
+  const std::size_t size = std::strlen(from);
+  for (std::size_t i = 0; i < size; ++i) {
+    const char byte = from[i];
+    to[i] = static_cast<char>(byte >= 'A' && byte <= 'Z' ? byte + 32 : byte);
+  }
+  to[size] = '\0';
+  return 0;
+}
+
+[[gnu::noinline]] int trim_by_loop(char* text) {
+  const char* from = text;
+  while (*from == ' ') ++from;
+  std::size_t size = std::strlen(from);
+  while (size > 0 && from[size - 1] == ' ') --size;
+  std::memmove(text, from, size);
+  text[size] = '\0';
+  return 0;
+}
+
+[[gnu::noinline]] int trim_by_find(std::string& text) {
+  text.erase(text.find_last_not_of(' ') + 1);
+  text.erase(0, text.find_first_not_of(' '));
+  return 0;
+}
+
+// ---- the rows ----
+
+void add_fold_rows(std::size_t size) {
+  Text& t = keep(Text{prose(size), std::string(size, '#')});
+  const char* const from = t.source.c_str();
+  char* const to = &t.room[0];
+  const auto read = [&t] {
+    const std::string answer = t.room;
+    std::fill(t.room.begin(), t.room.end(), '#');
+    return answer;
+  };
+  row("normalise", "Zeph_Lower", size_text(size), size)
+      .outputs(read)
+      .zeph([from, to] { return Orbane::Zeph_Lower(from, to), 0; })
+      .peer("ASCII loop", [from, to] { return lower_by_wide_loop(from, to); })
+      .peer("tolower loop", [from, to] { return lower_by_tolower(from, to); });
+}
+
+// Each call trims a fresh copy: the copy is part of every figure.
+void add_trim_rows(const std::string& text, const std::string& input) {
+  Text& t = keep(Text{text, text});
+  char* const room = &t.room[0];
+  const auto fresh = [&t, room] {
+    std::memcpy(room, t.source.c_str(), t.source.size() + 1);
+    return room;
+  };
+  const auto read = [room] { return std::string(room); };
+  row("normalise", "copy, Zeph_Trimed", input, text.size())
+      .outputs(read)
+      .zeph([fresh] { return Orbane::Zeph_Trimed(fresh()), 0; })
+      .peer("loops and memmove", [fresh] { return trim_by_loop(fresh()); });
+  Text& s = keep(Text{text, text});
+  row("normalise", "copy, Zeph_Trimed String", input, text.size())
+      .outputs([&s] { return s.room; })
+      .zeph([&s] { return s.room.assign(s.source), Orbane::Zeph_Trimed(s.room), 0; })
+      .peer("find_..._not_of, erase",
+            [&s] { return s.room.assign(s.source), trim_by_find(s.room); });
+}
+
+}  // namespace
+
+void register_normalise_rows() {
+  for (const std::size_t size : {8, 16, 64, 4096}) add_fold_rows(size);
+  const std::string blanks(524288, ' ');
+  add_trim_rows("Chamber Pressure", "16 bytes, no blanks");
+  add_trim_rows("   Chamber Pressure 0.75 mTorr    ", "34 bytes, 3 and 4 blanks");
+  add_trim_rows(blanks + "x" + blanks, "1 MiB of blanks, x inside");
+  add_trim_rows(blanks + blanks, "1 MiB of blanks");
+}
+
+}  // namespace zeph_bench

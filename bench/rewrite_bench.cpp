@@ -1,0 +1,163 @@
+// Replacing, removing, composing and dumping against what a user would write instead.
+#include <cstdio>
+#include <cstring>
+#include <regex>
+#include <string>
+#include <string_view>
+
+#include "bench.h"
+#include "zeph.h"
+
+#if ZEPH_BENCH_HAS_RE2
+#include <re2/re2.h>
+#endif
+
+namespace zeph_bench {
+namespace {
+
+std::string repeat(std::string_view piece, std::size_t size) {
+  std::string text;
+  while (text.size() < size) text += piece;
+  text.resize(size);
+  return text;
+}
+
+std::string size_text(std::size_t size) {
+  return size < 1024 ? std::to_string(size) + " bytes" : std::to_string(size / 1024) + " KiB";
+}
+
+std::string replace_by_find(std::string text, std::string_view from, std::string_view to) {
+  for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size()) {
+    text.replace(at, from.size(), to);
+  }
+  return text;
+}
+
+// A scan with a stack: the rule of removal in one pass, written for one pattern of two bytes.
+std::string remove_by_stack(const std::string& text, std::string_view pair) {
+  std::string kept;
+  for (const char byte : text) {
+    if (byte == pair[1] && !kept.empty() && kept.back() == pair[0]) {
+      kept.pop_back();
+    } else {
+      kept.push_back(byte);
+    }
+  }
+  return kept;
+}
+
+void add_replace_rows(std::size_t size) {
+  const std::string& pairs = keep(repeat("ab", size));
+  const std::string& nested = keep(std::string(size / 2, 'a') + std::string(size / 2, 'b'));
+  std::string& work = keep(std::string());
+  row("rewrite", "Zeph_Replace byte text, ab -> c", size_text(size) + " abab..", size)
+      .zeph([&] {
+        work = pairs;
+        Orbane::Zeph_Replace(work.data(), "ab", "c");
+        return std::string(work.c_str());
+      })
+      .peer("find + replace", [&] { return replace_by_find(pairs, "ab", "c"); });
+  row("rewrite", "Zeph_Remove, ab", size_text(size) + " aa..bb..", size)
+      .zeph([&] {
+        work = nested;
+        Orbane::Zeph_Remove(work, std::string("ab"));
+        return work;
+      })
+      .peer("stack of bytes", [&] { return remove_by_stack(nested, "ab"); });
+  row("rewrite", "Zeph_Remove a byte", size_text(size) + " abab..", size)
+      .zeph([&] {
+        work = pairs;
+        Orbane::Zeph_Remove(work, 'b');
+        return work;
+      })
+      .peer("find + replace", [&] { return replace_by_find(pairs, "b", ""); });
+}
+
+std::string dump_by_digits(const std::string& bytes) {
+  std::string dump;
+  dump.reserve(3 * bytes.size());
+  for (const char byte : bytes) {
+    const auto value = static_cast<unsigned char>(byte);
+    if (!dump.empty()) dump.push_back(' ');
+    dump.push_back("0123456789ABCDEF"[value / 16]);
+    dump.push_back("0123456789ABCDEF"[value % 16]);
+  }
+  return dump;
+}
+
+std::string dump_by_snprintf(const std::string& bytes) {
+  std::string dump(3 * bytes.size() + 1, '\0');
+  char* out = dump.data();
+  for (const char byte : bytes) out += std::snprintf(out, 4, "%02X ", byte & 0xFF);
+  dump.resize(3 * bytes.size() - 1);
+  return dump;
+}
+
+void add_dump_row(std::size_t size) {
+  std::string& bytes = keep(std::string());
+  for (std::size_t i = 0; i < size; ++i) bytes.push_back(static_cast<char>(i * 37));
+  char*& block = keep(static_cast<char*>(nullptr));
+  row("rewrite", "Zeph_To_Ascii to a buffer", size_text(size), size)
+      .zeph([&] {
+        return std::string_view(
+            Orbane::Zeph_To_Ascii(bytes.data(), static_cast<int>(bytes.size()), &block));
+      })
+      .peer("byte loop", [&] { return dump_by_digits(bytes); })
+      .peer("snprintf", [&] { return dump_by_snprintf(bytes); });
+}
+
+struct AlarmRow {
+  char joined[512] = "";
+  std::string first = "DOOR OPEN|door of chamber 2 open", second = "PUMP|pump stopped";
+};
+
+std::string join_by_append(const AlarmRow& row) {
+  const std::size_t a = row.first.find('|'), b = row.second.find('|');
+  std::string joined = row.first.substr(0, a);
+  joined.append(" ").append(row.second, 0, b).append("|").append(row.first, a + 1);
+  return joined.append(" ").append(row.second, b + 1);
+}
+
+void add_alarm_row() {
+  AlarmRow& alarm = keep(AlarmRow());
+  row("rewrite", "Zeph_Strcat_Alarm_Append_Text", "two texts", alarm.first.size())
+      .zeph([&] {
+        std::memcpy(alarm.joined, alarm.first.c_str(), alarm.first.size() + 1);
+        Orbane::Zeph_Strcat_Alarm_Append_Text(alarm.joined, alarm.second.c_str());
+        return std::string_view(alarm.joined);
+      })
+      .peer("append loop", [&] { return join_by_append(alarm); });
+}
+
+void add_name_row(const char* name) {
+  static const std::regex standard("[Ss]([0-9]+)[Ff]([0-9]+)");
+  auto& names = row("rewrite", "Zeph_Check_SxxFxx", name, std::strlen(name));
+  names.zeph([name] {
+    unsigned char stream = 0, function = 0;
+    return Orbane::Zeph_Check_SxxFxx(name, &stream, &function) ? stream * 256 + function : -1;
+  });
+#if ZEPH_BENCH_HAS_RE2
+  static const re2::RE2 pattern("[Ss]([0-9]+)[Ff]([0-9]+)");
+  names.peer("RE2", [name] {
+    int stream = 0, function = 0;
+    return re2::RE2::FullMatch(name, pattern, &stream, &function) ? stream * 256 + function : -1;
+  });
+#endif
+  names.peer("std::regex", [name] {
+    std::cmatch match;
+    if (!std::regex_match(name, match, standard)) return -1;
+    return std::stoi(match[1]) * 256 + std::stoi(match[2]);
+  });
+}
+
+}  // namespace
+
+void register_rewrite_rows() {
+  for (const std::size_t size : {64U, 1024U, 1048576U}) add_replace_rows(size);
+  for (const std::size_t size : {16U, 64U, 4096U}) add_dump_row(size);
+  add_alarm_row();
+  add_name_row("S6F11");
+  add_name_row("S127F255");
+}
+
+}  // namespace zeph_bench

@@ -1,0 +1,89 @@
+// Position search in byte texts against the C library's searches and std::string_view, whose length
+// comes from the text as Zeph's does.
+#include <cstring>
+#include <string>
+#include <string_view>
+
+#include "bench.h"
+#include "zeph.h"
+
+namespace zeph_bench {
+namespace {
+
+struct Search {
+  std::string text, pattern;
+};
+
+std::string prose(std::size_t size) {
+  std::string text;
+  while (text.size() < size) text += "Chamber Pressure 0.75 mTorr; ";
+  text.resize(size);
+  return text;
+}
+
+std::string size_text(std::size_t size) {
+  if (size < 1024) return std::to_string(size) + " bytes";
+  return size < 1048576 ? std::to_string(size / 1024) + " KiB"
+                        : std::to_string(size / 1048576) + " MiB";
+}
+
+int place(const char* text, const char* found) {
+  return found ? static_cast<int>(found - text) : -1;
+}
+
+int find_by_memmem(const char* text, const char* pattern) {
+  const void* const found = memmem(text, std::strlen(text), pattern, std::strlen(pattern));
+  return place(text, static_cast<const char*>(found));
+}
+
+int find_by_view(const char* text, const char* pattern) {
+  const std::size_t found = std::string_view(text).find(pattern);
+  return found == std::string_view::npos ? -1 : static_cast<int>(found);
+}
+
+void add_rows(Search search, const std::string& input) {
+  Search& s = keep(std::move(search));
+  row("search", "Zeph_Find_Position", input, s.text.size())
+      .zeph([&s] { return Orbane::Zeph_Find_Position(s.text.c_str(), s.pattern.c_str()); })
+      .peer("strstr",
+            [&s] { return place(s.text.c_str(), strstr(s.text.c_str(), s.pattern.c_str())); })
+      .peer("string_view::find", [&s] { return find_by_view(s.text.c_str(), s.pattern.c_str()); })
+      .peer("memmem", [&s] { return find_by_memmem(s.text.c_str(), s.pattern.c_str()); });
+  row("search", "Zeph_Find_Position_L", input, s.text.size())
+      .zeph([&s] { return Orbane::Zeph_Find_Position_L(s.text.c_str(), s.pattern.c_str()); })
+      .peer("strcasestr",
+            [&s] { return place(s.text.c_str(), strcasestr(s.text.c_str(), s.pattern.c_str())); });
+}
+
+void add_adversarial_rows(std::size_t size) {
+  const std::string run(64, 'a'), half(32, 'a'), text(size, 'a'), name = size_text(size);
+  add_rows({text, run + "b"}, name + ", a..a, a..ab");
+  add_rows({text, "b" + run}, name + ", a..a, ba..a");
+  add_rows({text, half + "b" + half}, name + ", a..a, a..aba..a");
+  // Many places where all but the far end of the pattern meets, for which no single byte tells.
+  std::string abab, block;
+  while (abab.size() < size) abab += abab.size() % 129 == 128 ? "b" : "ab";
+  while (block.size() < 256) block += "ab";
+  add_rows({abab, "ababababababac"}, name + ", abab.., short");
+  add_rows({abab, block + "c"}, name + ", abab.., ab..abc");
+  add_rows({abab, block + "b" + block}, name + ", abab.., ab..bab..");
+}
+
+}  // namespace
+
+void register_search_rows() {
+  add_rows({"S1F13", "F"}, "5 bytes, F");
+  for (const std::size_t size : {16, 64, 4096, 1048576}) {
+    const std::string text = prose(size), name = size_text(size);
+    std::string alarm = text;
+    alarm.replace(size - 6, 5, "ALARM");
+    add_rows({alarm, "ALARM"}, name + ", at the end");
+    add_rows({text, "Pressed"}, name + ", near misses");
+    add_rows({text, "#"}, name + ", one byte, none");
+    add_rows({text, "Chamber"}, name + ", at the start");
+  }
+  add_adversarial_rows(4096);
+  add_adversarial_rows(1048576);
+}
+
+}  // namespace zeph_bench

@@ -1,0 +1,40 @@
+# What the scan primitives find here: twins that are chosen at run time, and services of the C library.
+# ZEPH_SCAN_SOURCES and ZEPH_SCAN_DEFINITIONS are the outcome, both empty in a portable build.
+include(CheckCXXSourceCompiles)
+
+set(ZEPH_SCAN_SOURCES)
+set(ZEPH_SCAN_DEFINITIONS)
+
+# Not on Windows, where GCC does not align the stack as its own code for these instructions expects.
+check_cxx_source_compiles("
+  #include <immintrin.h>
+  #ifdef _WIN32
+  #error none
+  #endif
+  [[gnu::target(\"avx2\")]] __m256i sum(__m256i a, __m256i b) { return _mm256_add_epi8(a, b); }
+  int main() { return __builtin_cpu_supports(\"avx2\") ? 0 : 1; }" ZEPH_FOUND_AVX2)
+
+check_cxx_source_compiles("
+  #include <cctype>
+  int main() { return (*__ctype_tolower_loc())['A'] + (*__ctype_toupper_loc())['a']; }"
+  ZEPH_FOUND_CTYPE_TABLES)
+
+check_cxx_source_compiles("
+  #include <cstring>
+  #ifndef __GLIBC__
+  #error unknown
+  #endif
+  int main() {}" ZEPH_FOUND_WIDE_STRSTR)
+
+if(NOT ZEPH_PORTABLE)
+  if(ZEPH_FOUND_AVX2)
+    list(APPEND ZEPH_SCAN_SOURCES scan/ascii_fold_avx2.cpp scan/find_pair_avx2.cpp scan/hex_pairs_avx2.cpp)
+    list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_AVX2)
+  endif()
+  if(ZEPH_FOUND_CTYPE_TABLES)
+    list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_CTYPE_TABLES)
+  endif()
+  if(ZEPH_FOUND_WIDE_STRSTR)
+    list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_WIDE_STRSTR)
+  endif()
+endif()

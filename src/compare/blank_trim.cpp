@@ -1,0 +1,79 @@
+// Blanks off the ends, in place: what stays is moved once, however many blanks there are.
+#include <cstring>
+
+#include "scan/other_byte.h"
+#include "zeph.h"
+
+namespace zeph {
+namespace {
+
+constexpr char blank = ' ';
+
+// What is left of a text.
+struct Kept {
+  std::size_t begin, end;
+};
+
+Kept without_head(const char* text, std::size_t size) {
+  return {run_at_front(text, size, blank), size};
+}
+
+Kept without_tail(const char* text, std::size_t size) {
+  return {0, size - run_at_back(text, size, blank)};
+}
+
+// A text of blanks has lost all of them at its head.
+Kept without_both(const char* text, std::size_t size) {
+  const std::size_t begin = run_at_front(text, size, blank);
+  return {begin, size - run_at_back(text + begin, size - begin, blank)};
+}
+
+// Moves the bytes that stay to the front. From their end up to the old terminator all bytes become
+// zero: trailing blanks as promised, and behind a head because each blank taken out alone would
+// have drawn a further zero byte behind the text.
+void keep_in_text(char* text, std::size_t size, Kept kept) {
+  const std::size_t left = kept.end - kept.begin;
+  if (left == size) return;
+  if (kept.begin > 0) std::memmove(text, text + kept.begin, left);
+  std::memset(text + left, '\0', size - left);
+}
+
+void keep_in_string(std::string& text, Kept kept) {
+  text.erase(kept.end);
+  text.erase(0, kept.begin);
+}
+
+}  // namespace
+}  // namespace zeph
+
+namespace Orbane {
+
+void Zeph_Del_TailSpace(char* text) {
+  const std::size_t size = std::strlen(text);
+  zeph::keep_in_text(text, size, zeph::without_tail(text, size));
+}
+
+void Zeph_Del_TailSpace(std::string& text) {
+  zeph::keep_in_string(text, zeph::without_tail(text.data(), text.size()));
+}
+
+void Zeph_Del_HeadSpace(char* text) {
+  if (*text != zeph::blank) return;
+  const std::size_t size = std::strlen(text);
+  zeph::keep_in_text(text, size, zeph::without_head(text, size));
+}
+
+void Zeph_Del_HeadSpace(std::string& text) {
+  zeph::keep_in_string(text, zeph::without_head(text.data(), text.size()));
+}
+
+void Zeph_Trimed(char* text) {
+  const std::size_t size = std::strlen(text);
+  zeph::keep_in_text(text, size, zeph::without_both(text, size));
+}
+
+void Zeph_Trimed(std::string& text) {
+  zeph::keep_in_string(text, zeph::without_both(text.data(), text.size()));
+}
+
+}  // namespace Orbane

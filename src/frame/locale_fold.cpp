@@ -1,0 +1,64 @@
+#include "frame/locale_fold.h"
+
+#include <cctype>
+#include <clocale>
+#include <cstring>
+
+namespace zeph {
+namespace {
+
+#ifdef ZEPH_HAS_CTYPE_TABLES
+
+// The runtime's own table of the "C" locale.
+struct AsciiTable {
+  int bytes[256];
+
+  constexpr explicit AsciiTable(LetterCase to) : bytes() {
+    for (int i = 0; i < 256; ++i) {
+      bytes[i] = static_cast<unsigned char>(ascii_fold(to, static_cast<char>(i)));
+    }
+  }
+};
+constexpr AsciiTable ascii_lower(LetterCase::lower), ascii_upper(LetterCase::upper);
+
+bool all_fold_as_ascii(LetterCase to) {
+  const bool lower = to == LetterCase::lower;
+  const int* const table = lower ? *__ctype_tolower_loc() : *__ctype_toupper_loc();
+  return std::memcmp(table, lower ? ascii_lower.bytes : ascii_upper.bytes, sizeof(AsciiTable)) == 0;
+}
+
+#else
+
+bool all_fold_as_ascii(LetterCase to) {
+  for (int i = 0; i < 256; ++i) {
+    const char byte = static_cast<char>(i);
+    if (locale_fold(to, byte) != ascii_fold(to, byte)) return false;
+  }
+  return true;
+}
+
+#endif
+
+}  // namespace
+
+bool locale_folds_ascii(LetterCase to) {
+  const char* const name = std::setlocale(LC_CTYPE, nullptr);
+  return (name && std::strcmp(name, "C") == 0) || all_fold_as_ascii(to);
+}
+
+// The byte goes in as an unsigned one: a negative number is no valid argument with every runtime,
+// and would take 0xFF for the end of a file.
+char locale_fold(LetterCase to, char byte) {
+  const int value = static_cast<unsigned char>(byte);
+  return static_cast<char>(to == LetterCase::lower ? std::tolower(value) : std::toupper(value));
+}
+
+FoldTable locale_fold_table(LetterCase to) {
+  FoldTable table;
+  for (int i = 0; i < 256; ++i) {
+    table.bytes[i] = static_cast<unsigned char>(locale_fold(to, static_cast<char>(i)));
+  }
+  return table;
+}
+
+}  // namespace zeph

@@ -1,0 +1,21 @@
+// Bytes as hexadecimal numbers of two digits, each with a blank behind it.
+#ifndef ZEPH_SCAN_HEX_PAIRS_H
+#define ZEPH_SCAN_HEX_PAIRS_H
+
+#include <cstddef>
+
+namespace zeph {
+
+enum class HexDigits { lower, upper };
+
+// Writes 3 * size bytes to `out`: the bytes 48 0A give "48 0A ".
+void put_hex_pairs(HexDigits digits, char* out, const char* bytes, std::size_t size);
+
+// The twins, with the same promise; the wide one where the build has it, for a multiple of 16
+// bytes.
+void put_hex_pairs_portable(HexDigits digits, char* out, const char* bytes, std::size_t size);
+void put_hex_pairs_avx2(HexDigits digits, char* out, const char* bytes, std::size_t size);
+
+}  // namespace zeph
+
+#endif  // ZEPH_SCAN_HEX_PAIRS_H

@@ -1,0 +1,137 @@
+#include "search/position.h"
+
+#include <algorithm>
+#include <climits>
+#include <cstring>
+#include <string_view>
+
+#include "frame/locale_fold.h"
+#include "scan/find_needle.h"
+#include "zeph.h"
+
+namespace zeph {
+namespace {
+
+using View = std::string_view;
+
+// A range of indexes; the text may end before either.
+struct Range {
+  std::size_t begin, end;
+};
+
+int to_position(std::size_t found) {
+  return found > INT_MAX ? not_found : static_cast<int>(found);
+}
+
+// The end of a text is looked for a piece at a time, and the piece is searched while it is near: a
+// match far ahead of the end costs no walk to the end, and a long text is fetched once.
+constexpr std::size_t first_piece = 128, largest_piece = 16384, growth = 16;
+
+// `find` looks for the pattern, which is `size` bytes long, in a text of known size.
+template <typename Find>
+std::size_t find_in_pieces(const char* text, Range range, std::size_t size, Find find) {
+  // A match may lie across two pieces, so that size - 1 bytes are searched again. Pieces of four
+  // times that size keep the whole search linear.
+  std::size_t from = range.begin, known = from, piece = std::max(first_piece, 4 * size);
+  for (;;) {
+    const std::size_t wanted = std::min(piece, range.end - known);
+    const std::size_t here = strnlen(text + known, wanted);
+    known += here;
+    const std::size_t found = find(View(text + from, known - from));
+    if (found != View::npos) return from + found;
+    if (here < wanted || known == range.end) return View::npos;
+    from = std::max(from, known - std::min(known, size - 1));
+    if (piece < largest_piece) piece *= growth;
+  }
+}
+
+// The range begins inside the text or at its terminator. The pattern is not empty.
+std::size_t find_in_range(const char* text, Range range, View pattern, CaseRule rule) {
+  const auto find_by = [&](auto find) { return find_in_pieces(text, range, pattern.size(), find); };
+  if (rule == CaseRule::exact) {
+    return find_by([pattern](View piece) { return find_needle(piece, pattern); });
+  }
+  if (locale_folds_ascii(LetterCase::lower)) {
+    return find_by([pattern](View piece) { return find_needle_ignoring_case(piece, pattern); });
+  }
+  const FoldTable table = locale_fold_table(LetterCase::lower);
+  return find_by(
+      [pattern, &table](View piece) { return find_needle_by_table(piece, pattern, table.bytes); });
+}
+
+// Patterns for the runtime's own search. Where it is a wide one, it has the shortest way through
+// the short texts that most are, since it needs no length; its cost can be that of text times
+// pattern, so that only short patterns go there.
+#ifdef ZEPH_HAS_WIDE_STRSTR
+constexpr std::size_t longest_short = 16;
+#else
+constexpr std::size_t longest_short = 1;
+#endif
+
+bool is_short(const char* pattern) {
+  std::size_t size = 1;
+  while (size <= longest_short && pattern[size] != '\0') ++size;
+  return size <= longest_short;
+}
+
+int find_short(const char* text, const char* pattern) {
+  const bool one_byte = pattern[1] == '\0';
+  const char* const found = one_byte ? std::strchr(text, pattern[0]) : std::strstr(text, pattern);
+  return found ? to_position(static_cast<std::size_t>(found - text)) : not_found;
+}
+
+}  // namespace
+
+int find_position(const char* text, const char* pattern, CaseRule rule) {
+  if (pattern[0] == '\0') return not_found;
+  if (rule == CaseRule::exact && is_short(pattern)) return find_short(text, pattern);
+  return to_position(find_in_range(text, {0, View::npos}, pattern, rule));
+}
+
+int find_position(const char* text, SearchSpan span, const char* pattern, CaseRule rule) {
+  const int start = std::max(span.start, 0);
+  if (span.end <= start || pattern[0] == '\0') return not_found;
+  const Range range{static_cast<std::size_t>(start), static_cast<std::size_t>(span.end)};
+  if (strnlen(text, range.begin) < range.begin) return not_found;
+  return to_position(find_in_range(text, range, pattern, rule));
+}
+
+}  // namespace zeph
+
+namespace Orbane {
+
+using zeph::CaseRule;
+
+int Zeph_Find_Position(const char* text, const char* pattern) {
+  return zeph::find_position(text, pattern, CaseRule::exact);
+}
+
+int Zeph_Find_Position(const char* text, int start, int end, const char* pattern) {
+  return zeph::find_position(text, {start, end}, pattern, CaseRule::exact);
+}
+
+int Zeph_Find_Position_L(const char* text, const char* pattern) {
+  return zeph::find_position(text, pattern, CaseRule::ignored);
+}
+
+int Zeph_Find_Position_L(const char* text, int start, int end, const char* pattern) {
+  return zeph::find_position(text, {start, end}, pattern, CaseRule::ignored);
+}
+
+bool Zeph_Find_SubString(const char* text, const char* pattern) {
+  return zeph::find_position(text, pattern, CaseRule::exact) >= 0;
+}
+
+bool Zeph_Find_SubString(const char* text, int start, int end, const char* pattern) {
+  return zeph::find_position(text, {start, end}, pattern, CaseRule::exact) >= 0;
+}
+
+bool Zeph_Find_SubString_L(const char* text, const char* pattern) {
+  return zeph::find_position(text, pattern, CaseRule::ignored) >= 0;
+}
+
+bool Zeph_Find_SubString_L(const char* text, int start, int end, const char* pattern) {
+  return zeph::find_position(text, {start, end}, pattern, CaseRule::ignored) >= 0;
+}
+
+}  // namespace Orbane

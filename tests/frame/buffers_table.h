@@ -1,0 +1,77 @@
+// Calls of the buffer functions and what they leave.
+#ifndef ZEPH_TESTS_FRAME_BUFFERS_TABLE_H
+#define ZEPH_TESTS_FRAME_BUFFERS_TABLE_H
+
+#include <cfloat>
+#include <climits>
+#include <string>
+#include <vector>
+
+namespace zeph_test {
+
+const struct {
+  const char* why;
+  const char* held;
+  const char* source;
+  const char* message;
+} refused_copies[] = {
+    {"text", nullptr, "a%d", "[Zeph] Memory calloc Fail in STR_MEM_MAKE_COPY <= [a%d]"},
+    {"NULL", nullptr, nullptr, "[Zeph] Memory calloc Fail in STR_MEM_MAKE_COPY <= NULL"},
+    {"the old block is gone", "a", "ab", "[Zeph] Memory calloc Fail in STR_MEM_MAKE_COPY <= [ab]"},
+};
+
+const char bad_pointer[] = "[Zeph] Invalid pointer in Zeph_Copy_Mem";
+const char bad_start[] = "[Zeph] StartIndex out of bounds in Zeph_Copy_Mem";
+const char too_far[] = "[Zeph] Copy operation would exceed SourceString bounds in Zeph_Copy_Mem";
+
+const struct {
+  const char* why;
+  const char* target;
+  int start;
+  const char* source;
+  int count;
+  const char* report;  // NULL where the bytes are written
+  const char* result;
+} overlays[] = {
+    {"up to the terminator", "abcd", 2, "XY", -1, nullptr, "abXY"},
+    {"one too far", "abcd", 3, "XY", -1, too_far, "abcd"},
+    {"on the terminator", "abcd", 4, "XY", -1, bad_start, "abcd"},
+    {"negative start", "abcd", -1, "XY", -1, bad_start, "abcd"},
+    {"empty target", "", 0, "", 0, bad_start, ""},
+    {"count cuts", "abcd", 3, "XY", 1, nullptr, "abcX"},
+    {"count 0", "abcd", 0, "XY", 0, nullptr, "abcd"},
+    {"count beyond the source", "abcd", 0, "XY", 9, nullptr, "XYcd"},
+    {"least count", "abcd", 1, "XY", INT_MIN, nullptr, "aXYd"},
+    {"no source", "abcd", 9, nullptr, 1, bad_pointer, "abcd"},
+    {"no target", nullptr, 0, "XY", 1, bad_pointer, nullptr},
+};
+
+const struct {
+  const char* why;
+  const char* source;
+  int size;
+  const char* result;
+} cut_texts[] = {
+    {"cut", "abcdef", 4, "abc"},        {"fits to the byte", "abc", 4, "abc"},
+    {"terminator alone", "abc", 1, ""}, {"NULL is the empty text", nullptr, 2, ""},
+    {"room to spare", "ab", 100, "ab"},
+};
+
+const struct {
+  const char* why;
+  int integer;
+  double real;
+  int size;
+  const char* integer_text;
+  const char* real_text;
+} cut_numbers[] = {
+    {"six digits behind the point", 0, 1.5, 9, "0", "1.500000"},
+    {"cut", 12345, 2.25, 4, "123", "2.2"},
+    {"lowest", INT_MIN, -0.0, 12, "-2147483648", "-0.000000"},
+    {"highest", INT_MAX, DBL_MAX, 17, "2147483647", "1797693134862315"},
+    {"terminator alone", 7, 7.0, 1, "", ""},
+};
+
+}  // namespace zeph_test
+
+#endif  // ZEPH_TESTS_FRAME_BUFFERS_TABLE_H
