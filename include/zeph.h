@@ -1057,10 +1057,11 @@ ZEPH_API std::string Zeph_ANSI_to_UTF8(const char* text);
 /// threads, not even with equal keys. What they keep outlives the call: the key and the last block
 /// lie in the library's memory until the process ends; working copies of the key are wiped.
 ///
-/// Timing: on x86 processors with AES instructions the time of a call depends on the length of the
-/// text alone. Everywhere else, and in Zeph_Encrypt_Reset_Key() on all processors, bytes of the key
-/// and the text are looked up in tables of 256 bytes; nothing branches on them, but who shares the
-/// processor's cache may learn of them from the time that it takes.
+/// Timing: where the library was built for x86 with AES instructions and the processor has them,
+/// the time of a call depends on the length of the text alone. Everywhere else, and in
+/// Zeph_Encrypt_Reset_Key() on all processors, bytes of the key and the text are looked up in
+/// tables of 256 bytes; nothing branches on them, but who shares the processor's cache may learn of
+/// them from the time that it takes.
 ///
 ///     unsigned char key[16] = {0x4B, 0x00, 0x91};  // zero bytes are bytes of the key
 ///     Orbane::Zeph_Encrypt_Reset_Key(16, key);
@@ -1107,7 +1108,9 @@ ZEPH_API unsigned long Zeph_Decrypt(char* record, char* text);
 /// NULL. The next call of the same function overwrites the text, a call of another one leaves it
 /// alone; a caller that needs the text longer copies it. Nothing is to be freed. Two threads must
 /// not be in the same function at once, and none may read a text while another one makes the next.
-/// No function prints, allocates or can fail.
+/// No function prints or allocates of its own or can fail. On POSIX systems the runtime loads the
+/// time zone, from the heap and a file, at the first stamp of a process, unless the host has called
+/// `tzset` before; where it cannot load the zone, stamps show UTC.
 /// @{
 
 /// Returns the present local date and time.
@@ -1201,12 +1204,14 @@ ZEPH_API const char* Zeph_Seconds_To_Time2(double seconds);
 /// | 112   | ENOSPC                 | 1131  | EDEADLK           | 10042 | ENOPROTOOPT         |
 /// | 117   | ENOSTR, ENOTTY         | 1142  | EMLINK            | 10043 | EPROTONOSUPPORT     |
 /// | 119   | ENOSYS                 | 1167  | ENXIO             | 10047 | EAFNOSUPPORT        |
-/// | 128   | ECHILD                 | 1168  | ESRCH             | 10048 | EADDRINUSE          |
-/// | 132   | ESPIPE                 | 1222  | ENETDOWN          | 10052 | ENETRESET           |
-/// | 145   | ENOTEMPTY              | 1225  | ECONNREFUSED      |       |                     |
+/// | 128   | ECHILD                 | 1168  | ESRCH             | 10044 | ESOCKTNOSUPPORT     |
+/// | 132   | ESPIPE                 | 1222  | ENETDOWN          | 10046 | EPFNOSUPPORT        |
+/// | 145   | ENOTEMPTY              | 1225  | ECONNREFUSED      | 10048 | EADDRINUSE          |
+/// | 10052 | ENETRESET              | 10058 | ESHUTDOWN         | 10059 | ETOOMANYREFS        |
+/// | 10064 | EHOSTDOWN              | 10068 | EUSERS            | 10071 | EREMOTE             |
 ///
-/// Any other value of `errno` stands for itself. A code in this list may have no row, as 1460 has
-/// none.
+/// Any other value of `errno` stands for itself, and shows the row of that Windows code if there is
+/// one. A code in this list may have no row, as 1460 has none.
 ///
 ///     if (!file) std::puts(Orbane::Zeph_Get_SysErrMsg());  // at once: other calls set errno too
 ZEPH_API const char* Zeph_Get_SysErrMsg();

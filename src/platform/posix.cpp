@@ -20,24 +20,27 @@ struct ErrorPair {
 };
 
 // errno values and the Windows codes that mean the same; where several do, the one whose message
-// says it best. It covers what POSIX names and Windows has; any other value stands for itself. On
-// some systems two of the names are one value.
+// says it best. It covers what POSIX and the sockets name and Windows has; any other value stands
+// for itself. On some systems two of the names are one value.
 // clang-format off
 constexpr ErrorPair error_pairs[] = {
     {E2BIG, 160}, {EACCES, 5}, {EADDRINUSE, 10048}, {EADDRNOTAVAIL, 1241}, {EAFNOSUPPORT, 10047},
     {EAGAIN, 1237}, {EALREADY, 10037}, {EBADF, 6}, {EBADMSG, 13}, {EBUSY, 170}, {ECANCELED, 995},
     {ECHILD, 128}, {ECONNABORTED, 1236}, {ECONNREFUSED, 1225}, {ECONNRESET, 64}, {EDEADLK, 1131},
     {EDESTADDRREQ, 10039}, {EDOM, 87}, {EDQUOT, 1295}, {EEXIST, 183}, {EFAULT, 487}, {EFBIG, 223},
-    {EHOSTUNREACH, 1232}, {EIDRM, 6}, {EILSEQ, 1113}, {EINPROGRESS, 997}, {EINTR, 1235},
+    {EHOSTDOWN, 10064}, {EHOSTUNREACH, 1232}, {EIDRM, 6}, {EILSEQ, 1113}, {EINPROGRESS, 997}, {EINTR, 1235},
     {EINVAL, 87}, {EIO, 1117}, {EISCONN, 1230}, {EISDIR, 5}, {ELOOP, 1921}, {EMFILE, 4},
     {EMLINK, 1142}, {EMSGSIZE, 10040}, {ENAMETOOLONG, 206}, {ENETDOWN, 1222}, {ENETRESET, 10052},
     {ENETUNREACH, 1231}, {ENFILE, 4}, {ENOBUFS, 8}, {ENODATA, 259}, {ENODEV, 20}, {ENOENT, 2},
     {ENOEXEC, 193}, {ENOLCK, 167}, {ENOLINK, 64}, {ENOMEM, 8}, {ENOMSG, 259}, {ENOPROTOOPT, 10042},
     {ENOSPC, 112}, {ENOSR, 8}, {ENOSTR, 117}, {ENOSYS, 119}, {ENOTCONN, 1229}, {ENOTDIR, 267},
     {ENOTEMPTY, 145}, {ENOTSOCK, 10038}, {ENOTSUP, 50}, {ENOTTY, 117}, {ENXIO, 1167},
-    {EOPNOTSUPP, 50}, {EOVERFLOW, 534}, {EOWNERDEAD, 105}, {EPERM, 5}, {EPIPE, 109}, {EPROTO, 59},
-    {EPROTONOSUPPORT, 10043}, {EPROTOTYPE, 10041}, {ERANGE, 534}, {EROFS, 19}, {ESPIPE, 132},
-    {ESRCH, 1168}, {ESTALE, 1006}, {ETIME, 1460}, {ETIMEDOUT, 1460}, {ETXTBSY, 32},
+    {EOPNOTSUPP, 50}, {EOVERFLOW, 534}, {EOWNERDEAD, 105}, {EPERM, 5}, {EPFNOSUPPORT, 10046},
+    {EPIPE, 109}, {EPROTO, 59},
+    {EPROTONOSUPPORT, 10043}, {EPROTOTYPE, 10041}, {ERANGE, 534}, {EREMOTE, 10071}, {EROFS, 19},
+    {ESHUTDOWN, 10058}, {ESOCKTNOSUPPORT, 10044}, {ESPIPE, 132},
+    {ESRCH, 1168}, {ESTALE, 1006}, {ETIME, 1460}, {ETIMEDOUT, 1460}, {ETOOMANYREFS, 10059},
+    {ETXTBSY, 32}, {EUSERS, 10068},
     {EWOULDBLOCK, 1237}, {EXDEV, 17},
 };
 // clang-format on
