@@ -8,6 +8,8 @@ function(check status output error)
   execute_process(COMMAND ${HOST} ${ARGN} INPUT_FILE "${INPUT}" WORKING_DIRECTORY /
     RESULT_VARIABLE got_status OUTPUT_VARIABLE got_output ERROR_VARIABLE got_error)
   string(REPLACE "\r\n" "\n" got_output "${got_output}")
+  string(REGEX REPLACE "\nPrinted 20[0-9]+/[0-9]+/[0-9]+ [0-9:]+\n$" "\nPrinted NOW\n" got_output
+    "${got_output}")
   if(NOT got_status STREQUAL status OR NOT (output STREQUAL "*" OR got_output STREQUAL output)
      OR NOT got_error MATCHES "${error}")
     message(SEND_ERROR "${ARGN} <${INPUT}: status ${got_status}, expected ${status}\n"
@@ -19,6 +21,7 @@ set(INPUT ${SOURCE}/events.log)
 check(0 "${EXPECTED}" "^$")
 check(0 "${EXPECTED}" "^$" ${SOURCE}/events.log)
 check(0 "${EXPECTED}" "^$" -)
+check(0 "${EXPECTED}\nPrinted NOW\n" "^$" --stamp -)
 check(0 "*" "^$" --help)
 check(1 "" "cannot open .*no-such.log" ${SOURCE}/no-such.log)
 check(1 "" "cannot (open|read) " ${SOURCE})
