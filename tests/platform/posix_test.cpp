@@ -9,10 +9,6 @@
 #include <thread>
 
 #include "platform/platform.h"
-#include "support/table.h"
-#include "zeph.h"
-
-using zeph_test::each_row;
 
 namespace {
 
@@ -57,25 +53,20 @@ long long offset_now() {
 
 TEST(Posix, LocalTimeFollowsTheZone) {
   const struct {
-    const char* why;
     const char* zone;
     long long offset;
-  } rows[] = {
-      {"UTC", "UTC0", 0},
-      {"east", "CST-8", 28800},
-      {"west", "XST9:30", -34200},
-      {"a quarter", "<+0545>-5:45", 20700},
-      {"more than half a day", "<+14>-14", 50400},
-      {"summer time all year", "EST5EDT,0/0,J365/25", -14400},
-      {"no such zone is UTC", ":/no/such/zone", 0},
-  };
-  each_row(rows, [](const auto& row) {
+  } rows[] = {{"UTC0", 0},
+              {"CST-8", 28800},
+              {"XST9:30", -34200},
+              {"<+0545>-5:45", 20700},
+              {"EST5EDT,0/0,J365/25", -14400},  // summer time all the year
+              {":/no/such/zone", 0}};
+  for (const auto& row : rows) {
     const Zone zone(row.zone);
     errno = 77;
-    const long long offset = offset_now();
+    EXPECT_EQ(offset_now(), row.offset) << row.zone;
     EXPECT_EQ(errno, 77);
-    EXPECT_EQ(offset, row.offset);
-  });
+  }
 }
 
 TEST(Posix, LocalTimeFollowsSummerTimeWithinTheProcess) {
@@ -93,35 +84,29 @@ TEST(Posix, LocalTimeFollowsSummerTimeWithinTheProcess) {
 
 TEST(Posix, ErrnoBecomesTheWindowsCode) {
   // clang-format off
-  const struct { int code; int errnos[3]; } rows[] = {
-      {2, {ENOENT}}, {4, {EMFILE, ENFILE}}, {5, {EACCES, EISDIR, EPERM}}, {6, {EBADF, EIDRM}},
-      {8, {ENOBUFS, ENOMEM, ENOSR}}, {13, {EBADMSG}}, {17, {EXDEV}}, {19, {EROFS}}, {20, {ENODEV}},
-      {32, {ETXTBSY}}, {50, {ENOTSUP, EOPNOTSUPP}}, {59, {EPROTO}}, {64, {ECONNRESET, ENOLINK}},
-      {87, {EDOM, EINVAL}}, {105, {EOWNERDEAD}}, {109, {EPIPE}}, {112, {ENOSPC}},
-      {117, {ENOSTR, ENOTTY}}, {119, {ENOSYS}}, {128, {ECHILD}}, {132, {ESPIPE}},
-      {145, {ENOTEMPTY}}, {160, {E2BIG}}, {167, {ENOLCK}}, {170, {EBUSY}}, {183, {EEXIST}},
-      {193, {ENOEXEC}}, {206, {ENAMETOOLONG}}, {223, {EFBIG}}, {259, {ENODATA, ENOMSG}},
-      {267, {ENOTDIR}}, {487, {EFAULT}}, {534, {EOVERFLOW, ERANGE}}, {995, {ECANCELED}},
-      {997, {EINPROGRESS}}, {1006, {ESTALE}}, {1113, {EILSEQ}}, {1117, {EIO}}, {1131, {EDEADLK}},
-      {1142, {EMLINK}}, {1167, {ENXIO}}, {1168, {ESRCH}}, {1222, {ENETDOWN}},
-      {1225, {ECONNREFUSED}}, {1229, {ENOTCONN}}, {1230, {EISCONN}}, {1231, {ENETUNREACH}},
-      {1232, {EHOSTUNREACH}}, {1235, {EINTR}}, {1236, {ECONNABORTED}},
-      {1237, {EAGAIN, EWOULDBLOCK}}, {1241, {EADDRNOTAVAIL}}, {1295, {EDQUOT}},
-      {1460, {ETIME, ETIMEDOUT}}, {1921, {ELOOP}}, {10037, {EALREADY}}, {10038, {ENOTSOCK}},
-      {10039, {EDESTADDRREQ}}, {10040, {EMSGSIZE}}, {10041, {EPROTOTYPE}}, {10042, {ENOPROTOOPT}},
-      {10043, {EPROTONOSUPPORT}}, {10044, {ESOCKTNOSUPPORT}}, {10046, {EPFNOSUPPORT}},
-      {10058, {ESHUTDOWN}}, {10059, {ETOOMANYREFS}}, {10064, {EHOSTDOWN}}, {10068, {EUSERS}},
-      {10071, {EREMOTE}}, {10047, {EAFNOSUPPORT}}, {10048, {EADDRINUSE}},
-      {10052, {ENETRESET}}, {0, {0}}, {ENOTRECOVERABLE, {ENOTRECOVERABLE}}, {1339, {1339}},
-      {-1, {-1}},
+  const struct { int value, code; } rows[] = {
+      {ENOENT, 2}, {EMFILE, 4}, {ENFILE, 4}, {EACCES, 5}, {EISDIR, 5}, {EPERM, 5}, {EBADF, 6},
+      {EIDRM, 6}, {ENOBUFS, 8}, {ENOMEM, 8}, {ENOSR, 8}, {EBADMSG, 13}, {EXDEV, 17}, {EROFS, 19},
+      {ENODEV, 20}, {ETXTBSY, 32}, {ENOTSUP, 50}, {EOPNOTSUPP, 50}, {EPROTO, 59}, {ECONNRESET, 64},
+      {ENOLINK, 64}, {EDOM, 87}, {EINVAL, 87}, {EOWNERDEAD, 105}, {EPIPE, 109}, {ENOSPC, 112},
+      {ENOSTR, 117}, {ENOTTY, 117}, {ENOSYS, 119}, {ECHILD, 128}, {ESPIPE, 132}, {ENOTEMPTY, 145},
+      {E2BIG, 160}, {ENOLCK, 167}, {EBUSY, 170}, {EEXIST, 183}, {ENOEXEC, 193}, {ENAMETOOLONG, 206},
+      {EFBIG, 223}, {ENODATA, 259}, {ENOMSG, 259}, {ENOTDIR, 267}, {EFAULT, 487}, {EOVERFLOW, 534},
+      {ERANGE, 534}, {ECANCELED, 995}, {EINPROGRESS, 997}, {ESTALE, 1006}, {EILSEQ, 1113},
+      {EIO, 1117}, {EDEADLK, 1131}, {EMLINK, 1142}, {ENXIO, 1167}, {ESRCH, 1168}, {ENETDOWN, 1222},
+      {ECONNREFUSED, 1225}, {ENOTCONN, 1229}, {EISCONN, 1230}, {ENETUNREACH, 1231},
+      {EHOSTUNREACH, 1232}, {EINTR, 1235}, {ECONNABORTED, 1236}, {EAGAIN, 1237},
+      {EWOULDBLOCK, 1237}, {EADDRNOTAVAIL, 1241}, {EDQUOT, 1295}, {ETIME, 1460}, {ETIMEDOUT, 1460},
+      {ELOOP, 1921}, {EALREADY, 10037}, {ENOTSOCK, 10038}, {EDESTADDRREQ, 10039}, {EMSGSIZE, 10040},
+      {EPROTOTYPE, 10041}, {ENOPROTOOPT, 10042}, {EPROTONOSUPPORT, 10043}, {EAFNOSUPPORT, 10047},
+      {EADDRINUSE, 10048}, {ENETRESET, 10052}, {ESOCKTNOSUPPORT, 10044}, {EPFNOSUPPORT, 10046},
+      {ESHUTDOWN, 10058}, {ETOOMANYREFS, 10059}, {EHOSTDOWN, 10064}, {EUSERS, 10068},
+      {EREMOTE, 10071}, {0, 0}, {ENOTRECOVERABLE, ENOTRECOVERABLE}, {1339, 1339}, {-1, -1},
   };
   // clang-format on
   for (const auto& row : rows) {
-    for (const int value : row.errnos) {
-      if (value == 0 && row.code != 0) continue;  // the rest of a short row
-      errno = value;
-      EXPECT_EQ(zeph::last_error(), static_cast<std::uint32_t>(row.code)) << value;
-      EXPECT_EQ(errno, value);
-    }
+    errno = row.value;
+    EXPECT_EQ(zeph::last_error(), static_cast<std::uint32_t>(row.code)) << row.value;
+    EXPECT_EQ(errno, row.value);
   }
 }
