@@ -2,6 +2,11 @@
 #   cmake "-DHOST=program" -DSOURCE=directory-of-this-file -P check_host.cmake
 cmake_policy(SET CMP0054 NEW)
 file(READ ${SOURCE}/report.txt EXPECTED)
+file(READ ${SOURCE}/README.md README)
+string(FIND "${README}" "${EXPECTED}" AT)
+if(AT EQUAL -1)
+  message(SEND_ERROR "README.md does not show what report.txt holds")
+endif()
 
 # check(STATUS OUTPUT ERROR-PATTERN arguments...): OUTPUT "*" is any.
 function(check status output error)

@@ -1,8 +1,9 @@
 // Zeph explains the last error of the calling thread, which is set to the code of the log first.
 
-#include <windows.h>
-
 #include "report.h"
+
+// Behind the standard headers, which its macros min and max would break.
+#include <windows.h>
 
 const char* explain(std::uint32_t code) {
   SetLastError(code);
