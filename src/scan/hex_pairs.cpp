@@ -36,7 +36,7 @@ void put_hex_pairs_portable(HexDigits digits, char* out, const char* bytes, std:
 }
 
 void put_hex_pairs(HexDigits digits, char* out, const char* bytes, std::size_t size) {
-#ifdef ZEPH_SCAN_AVX2
+#ifdef ZEPH_HAS_AVX2
   if (size >= 16 && has_avx2()) {
     const std::size_t wide = size / 16 * 16;
     put_hex_pairs_avx2(digits, out, bytes, wide);

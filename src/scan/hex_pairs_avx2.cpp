@@ -1,8 +1,6 @@
 // The pairs of 16 bytes at a time: entered only where the processor has AVX2.
 #include "scan/hex_pairs.h"
-#include "scan/wide.h"
 
-#ifdef ZEPH_SCAN_AVX2
 #include <immintrin.h>
 
 namespace zeph {
@@ -57,5 +55,3 @@ __attribute__((target("avx2"))) void put_hex_pairs_avx2(HexDigits digits, char* 
 }
 
 }  // namespace zeph
-
-#endif  // ZEPH_SCAN_AVX2
