@@ -94,7 +94,7 @@ std::string repeated(const std::string& part, std::size_t size) {
 }  // namespace
 
 void register_codepage_rows() {
-  for (const std::size_t size : {64, 4096, 65536}) {
+  for (const std::size_t size : {std::size_t{64}, std::size_t{4096}, std::size_t{65536}}) {
     const struct {
       const char* kind;
       std::string ansi;

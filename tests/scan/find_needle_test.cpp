@@ -18,7 +18,7 @@ struct OtherFold {
   unsigned char table[256];
   OtherFold() {
     for (int i = 0; i < 256; ++i) table[i] = static_cast<unsigned char>(i);
-    table['i'] = 0xDD;
+    table[0x69] = 0xDD;
     table[0xE4] = 0xC4;
   }
 };
