@@ -74,4 +74,12 @@ GuardedText::GuardedText(std::string_view text, End end, Edge edge)
   if (end == End::terminated) data()[text.size()] = '\0';
 }
 
+const char* at_edge(std::string_view text, End end) {
+  static const GuardedBuffer room(1 << 18);
+  char* const start = room.data() + room.size() - text.size() - (end == End::terminated ? 1 : 0);
+  std::memcpy(start, text.data(), text.size());
+  if (end == End::terminated) start[text.size()] = '\0';
+  return start;
+}
+
 }  // namespace zeph_test

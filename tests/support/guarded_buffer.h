@@ -4,6 +4,8 @@
 //     GuardedBuffer in(9, Edge::front);  // in.data()[-1] faults: the room starts at the page
 //     GuardedText text("abc");           // a byte text whose terminator is the last byte
 //     GuardedText bare("abc", End::bare);  // the same without a terminator
+//     at_edge("abc");                      // as GuardedText for millions of texts, until the next
+//     call
 //
 // The room is filled with a pattern, so that bytes that must stay untouched can be checked:
 // `untouched(from)` is true if all bytes from index `from` on still hold it.
@@ -46,6 +48,8 @@ class GuardedText : public GuardedBuffer {
  public:
   explicit GuardedText(std::string_view text, End end = End::terminated, Edge edge = Edge::back);
 };
+
+const char* at_edge(std::string_view text, End end = End::terminated);
 
 }  // namespace zeph_test
 
