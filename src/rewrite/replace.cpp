@@ -21,6 +21,18 @@ void replace_bytes(char* text, std::size_t size, char find, char replacement) {
   for (std::size_t i = 0; i < size; ++i) text[i] = text[i] == find ? replacement : text[i];
 }
 
+// The next occurrence. Where they stand close together, a look at the first bytes is cheaper than
+// the start of a wide search.
+std::size_t find_next(View text, View pattern) {
+  constexpr std::size_t near = 16;
+  const std::size_t first = near < text.size() ? near : text.size();
+  for (std::size_t at = 0; at < first; ++at) {
+    if (text[at] == pattern[0] && text.compare(at, pattern.size(), pattern) == 0) return at;
+  }
+  const std::size_t at = find_needle(text.substr(first), pattern);
+  return at == View::npos ? at : at + first;
+}
+
 enum class AfterChange { look_again, go_on };
 
 // A text being rewritten inside one buffer: what is done, a gap, and what is still to be searched.
@@ -38,7 +50,15 @@ struct GapText {
   }
   // The next `n` bytes are done.
   void pass(std::size_t n) {
-    std::memmove(bytes + done, bytes + rest, n);
+    if (done == rest) {
+      done = rest += n;
+      return;
+    }
+    if (n < 16) {
+      for (std::size_t i = 0; i < n; ++i) bytes[done + i] = bytes[rest + i];
+    } else {
+      std::memmove(bytes + done, bytes + rest, n);
+    }
     done += n;
     rest += n;
   }
@@ -72,7 +92,7 @@ void change(GapText& text, std::size_t at, View pattern, View replacement, After
 // the replacement is no longer than the pattern, or the gap was made for all changes together.
 std::size_t change_all(GapText text, View pattern, View replacement, AfterChange then) {
   for (;;) {
-    const std::size_t at = find_needle(text.unsearched(), pattern);
+    const std::size_t at = find_next(text.unsearched(), pattern);
     if (at == View::npos) break;
     change(text, at, pattern, replacement, then);
   }
@@ -82,7 +102,7 @@ std::size_t change_all(GapText text, View pattern, View replacement, AfterChange
 
 std::size_t count_needles(View text, View needle) {
   std::size_t count = 0;
-  for (std::size_t at; (at = find_needle(text, needle)) != View::npos; ++count) {
+  for (std::size_t at; (at = find_next(text, needle)) != View::npos; ++count) {
     text.remove_prefix(at + needle.size());
   }
   return count;
@@ -129,7 +149,7 @@ class HeapRewriting {
   bool run(View pattern, View replacement, std::size_t most_changes) {
     if (!text_.bytes) return false;
     for (std::size_t changes = 0;; ++changes) {
-      const std::size_t at = find_needle(text_.unsearched(), pattern);
+      const std::size_t at = find_next(text_.unsearched(), pattern);
       if (at == View::npos) break;
       if (changes == most_changes || !make_gap(replacement.size())) return false;
       change(text_, at, pattern, replacement, AfterChange::look_again);
@@ -197,7 +217,7 @@ void replace_onward(std::string& text, View pattern, View replacement) {
   if (count == 0) return;
   std::string result;
   result.reserve(text.size() + count * (replacement.size() - pattern.size()));
-  for (std::size_t at; (at = find_needle(rest, pattern)) != View::npos;) {
+  for (std::size_t at; (at = find_next(rest, pattern)) != View::npos;) {
     result.append(rest.substr(0, at)).append(replacement);
     rest.remove_prefix(at + pattern.size());
   }
