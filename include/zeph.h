@@ -162,7 +162,8 @@ ZEPH_API char* Zeph_Set_Mem(char* block, int value, unsigned int count);
 ///
 /// The String forms take the objects as byte texts: each ends at its first zero byte, and what
 /// stands behind has no part in the result. They change neither object, in spite of the
-/// non-constant references. Nothing is read behind the first difference.
+/// non-constant references. Nothing is read behind the first difference, or behind the first `n`
+/// bytes where a number bounds them.
 ///
 ///     Orbane::Zeph_Compare("abcX", "abcY", 3);   // true: equal in the first three bytes
 ///     Orbane::Zeph_Compare_L("Ready", "READY");  // true
@@ -358,7 +359,7 @@ ZEPH_API void Zeph_Ext_Str_From_Str(const std::string& text, int start, int coun
 /// character can be a 0x5C and then counts as a separator.
 ///
 ///     char name[9];
-///     Orbane::Zeph_Ext_Name_From_FullPath(name, "c:\log/today.txt", 8);  // "today.tx"
+///     Orbane::Zeph_Ext_Name_From_FullPath(name, "c:\\log/today.txt", 8);  // "today.tx"
 ZEPH_API void Zeph_Ext_Name_From_FullPath(char* out, const char* path, int size);
 
 /// What stands in front of the *first* occurrence of the marker: the text "a=b=c" gives "a" for the
@@ -372,10 +373,9 @@ ZEPH_API void Zeph_Left(const std::string& text, const std::string& marker, std:
 ZEPH_API void Zeph_Left(const std::string& text, char marker, std::string& out);
 ///@}
 
-/// What stands behind the *last* occurrence of the marker: the text "a=b=c" gives "c" for the
-/// marker
-/// '='. A missing marker gives the whole text, an empty one the empty text. The last occurrence of
-/// a longer marker is the one that starts last.
+/// What stands behind the *last* occurrence of the marker, for a longer one that which starts last:
+/// the text "a=b=c" gives "c" for the marker '='. A missing marker gives the whole text, an empty
+/// one the empty text.
 ///
 /// The forms with `out` replace it by the result; it may be `text` or `marker`.
 ///@{
@@ -783,13 +783,13 @@ ZEPH_API void Zeph_Conv_Dbl_To_Str(double value, int precision, char* const out)
 /// | remove a piece, both kinds        | from the start again   |                           |
 ///
 /// Where it starts again, no occurrence is left in the end, also none that the changes themselves
-/// have formed: removing "ab" from "aabb" leaves nothing. The time is proportional to the length
-/// all the same: only the bytes around a change are searched again.
+/// have formed: removing "ab" from "aabb" leaves nothing. Only the bytes around a change are
+/// searched again, so that the time follows the text's length and the work of the changes.
 ///
 /// The byte text forms end at the first zero byte, of patterns and replacements too, which must not
-/// lie inside the text. The String forms go by the stored sizes, zero bytes are ordinary bytes, and
-/// pattern and replacement may be the text itself, which counts as it was at the start. An empty
-/// pattern changes nothing. Nothing is reported.
+/// lie inside the text; bytes behind the new terminator may change. The String forms go by the
+/// stored sizes, zero bytes are ordinary bytes, and pattern and replacement may be the text itself,
+/// which counts as it was at the start. An empty pattern changes nothing. Nothing is reported.
 /// @{
 
 /// Every byte equal to `find` becomes `replacement`. The byte text form works on the length that it
@@ -814,11 +814,13 @@ ZEPH_API void Zeph_Replace(std::string& text, const std::string& pattern,
 /// replacement that is the final one. No more than that is ever written.
 ///
 /// Pairs that might never end are bounded, and leave the text as it was: a replacement that
-/// contains the pattern; a longer replacement whose changes form new occurrences more than the
-/// text's length + 1,024 times; one of the same length that does so more than
-/// 64 * (length + 1,024) times. Where a replacement that is not shorter than the pattern could form
-/// new occurrences, the work is done in a heap block; if the heap refuses it, the text stays as it
-/// was. All other pairs need no heap.
+/// contains the pattern; and a replacement not shorter than the pattern that takes more changes
+/// than the text has bytes, if these work through more than 64 MiB, pattern and replacement
+/// counted for each change. "ab" that becomes "ba" sorts thousands of bytes before that.
+///
+/// Where a replacement not shorter than the pattern may form new occurrences, or the pattern has
+/// more than 64 bytes, the work is done in a heap block; if the heap refuses it, the text stays as
+/// it was. All other pairs need no heap.
 ZEPH_API void Zeph_Replace(char* text, const char* pattern, const char* replacement);
 
 /// Every occurrence of `pattern` is cut out, from the start of the text again after each cut. The

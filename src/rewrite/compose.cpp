@@ -34,10 +34,10 @@ std::string splice(std::size_t size, const char* format, std::va_list arguments)
   char near[512] = "";
   const std::size_t room = size < sizeof near ? size : sizeof near;
   const int length = print(near, room, format, arguments);
-  if (length < 0 || static_cast<std::size_t>(length) < room || room == size) {
-    return std::string(near, strnlen(near, room - 1));
-  }
-  const auto whole = static_cast<std::size_t>(length);
+  const bool printed_whole = length >= 0 && static_cast<std::size_t>(length) < room;
+  if (printed_whole || room == size) return std::string(near, strnlen(near, room - 1));
+  // A print that failed leaves what it had printed so far, as far as the room goes.
+  const std::size_t whole = length < 0 ? size : static_cast<std::size_t>(length);
   std::string text(whole < size ? whole : size - 1, '\0');
   print(text.data(), text.size() + 1, format, arguments);
   text.resize(std::strlen(text.c_str()));

@@ -17,8 +17,11 @@ namespace {
 
 using View = std::string_view;
 
+// Nothing is written in front of the first match, nor where there is none. From there on every byte
+// is stored, changed or not: that way the loop is wide.
 void replace_bytes(char* text, std::size_t size, char find, char replacement) {
-  for (std::size_t i = 0; i < size; ++i) text[i] = text[i] == find ? replacement : text[i];
+  std::size_t i = View(text, size).find(find);
+  for (; i < size; ++i) text[i] = text[i] == find ? replacement : text[i];
 }
 
 // The next occurrence. Where they stand close together, a look at the first bytes is cheaper than
@@ -181,12 +184,13 @@ class HeapRewriting {
   std::size_t block_size_;
 };
 
-// The changes that a text of `size` bytes may take before its pair counts as one without an end.
-// Where a pair forms occurrences on one side of the replacement only, each change uses up a byte of
-// the original text, and there are at most `size`. A pair that grows the text gets few more, one
-// that only moves bytes about gets many.
-constexpr std::size_t most_changes(std::size_t size, bool grows) {
-  return grows ? size + 1024 : 64 * (size + 1024);
+// The changes that a pair may take before it counts as one without an end. Where a pair forms
+// occurrences on one side of the replacement only, each change uses up a byte of the original text,
+// so that there are at most as many. All others may work through 64 MiB, which bounds time and
+// heap.
+std::size_t most_changes(std::size_t size, View pattern, View replacement) {
+  constexpr std::size_t most_bytes = std::size_t{1} << 26;
+  return std::max(size, most_bytes / (pattern.size() + replacement.size()));
 }
 
 // Looks again from the start after each change. Returns the new size; a pair that is given up
@@ -198,11 +202,18 @@ std::size_t replace_again(char* text, std::size_t size, View pattern, View repla
   if (find_needle({text, size}, pattern) == View::npos) return size;
   if (find_needle(replacement, pattern) != View::npos) return size;
   if (!can_form(pattern, replacement)) return replace_apart(text, size, pattern, replacement);
-  const bool grows = replacement.size() > pattern.size();
   HeapRewriting rewriting({text, size});
-  if (!rewriting.run(pattern, replacement, most_changes(size, grows))) return size;
+  if (!rewriting.run(pattern, replacement, most_changes(size, pattern, replacement))) return size;
   put(text, rewriting.result());
   return rewriting.result().size();
+}
+
+// A text without an occurrence is not written to, not even its terminator.
+void replace_in_bytes(char* text, View pattern, View replacement) {
+  if (pattern.empty()) return;
+  const std::size_t size = std::strlen(text);
+  const std::size_t new_size = replace_again(text, size, pattern, replacement);
+  if (new_size != size) text[new_size] = '\0';
 }
 
 // Goes on behind the replacement.
@@ -244,8 +255,7 @@ void Zeph_Replace(std::string& text, const std::string& pattern, const std::stri
 }
 
 void Zeph_Replace(char* text, const char* pattern, const char* replacement) {
-  if (*pattern == '\0') return;
-  text[zeph::replace_again(text, std::strlen(text), pattern, replacement)] = '\0';
+  zeph::replace_in_bytes(text, pattern, replacement);
 }
 
 void Zeph_Remove(std::string& text, const std::string& pattern) {
@@ -254,7 +264,7 @@ void Zeph_Remove(std::string& text, const std::string& pattern) {
 }
 
 void Zeph_Remove(char* text, const char* pattern) {
-  if (*pattern != '\0') text[zeph::replace_again(text, std::strlen(text), pattern, {})] = '\0';
+  zeph::replace_in_bytes(text, pattern, {});
 }
 
 void Zeph_Remove(std::string& text, char byte) {

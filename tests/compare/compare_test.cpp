@@ -5,6 +5,7 @@
 
 #include "compare/compare_table.h"
 #include "support/guarded_buffer.h"
+#include "support/scoped_locale.h"
 #include "support/table.h"
 #include "zeph.h"
 
@@ -41,6 +42,22 @@ TEST(Compare, StringsEndAtTheirFirstZeroByte) {
   EXPECT_TRUE(Orbane::Zeph_Compare_L(x, plain));
   EXPECT_TRUE(Orbane::Zeph_Compare_L(x, plain, 4));
   EXPECT_EQ(x, std::string("ab\0x", 4)) << "unchanged";
+}
+
+TEST(Compare, NoTerminatorIsNeededBehindTheLastByteCompared) {
+  GuardedText a("abc", End::bare), b("abc", End::bare), other("aBx", End::bare);
+  EXPECT_TRUE(Orbane::Zeph_Compare(a.data(), b.data(), 3));
+  EXPECT_TRUE(Orbane::Zeph_Compare_L(a.data(), b.data(), 3));
+  EXPECT_FALSE(Orbane::Zeph_Compare(a.data(), other.data(), -1));
+  EXPECT_FALSE(Orbane::Zeph_Compare_L(a.data(), other.data(), -1));
+}
+
+TEST(Compare, TheFoldFollowsTheLocale) {
+  EXPECT_FALSE(Orbane::Zeph_Compare_L("\xC4", "\xE4"));
+  const ScopedLocale locale(LC_CTYPE, "de_DE", "ISO-8859-1");
+  if (!locale.in_force()) GTEST_SKIP() << locale.reason();
+  EXPECT_TRUE(Orbane::Zeph_Compare_L("\xC4", "\xE4"));
+  EXPECT_TRUE(Orbane::Zeph_Compare_L("\xC4", "\xE4", 1));
 }
 
 // Every pair of bytes against the fold of the ASCII letters.

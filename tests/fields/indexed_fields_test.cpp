@@ -86,6 +86,7 @@ TEST(IndexedFields, RefusedWorkBuffersAreReported) {
     StdoutCapture capture;
     EXPECT_EQ(Orbane::Zeph_Seperate_Char_Get_Index("a,b", ',', "a"), -1);
     EXPECT_EQ(heap.callocs(), 2);
+    EXPECT_EQ(heap.last_calloc(), sizeof "a,b");
     EXPECT_EQ(capture.text(), banners(refused, "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem"));
   }
 }

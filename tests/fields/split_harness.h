@@ -131,6 +131,7 @@ void expect_refusals_reported(Family family, const std::string& text) {
       StdoutCapture capture;
       EXPECT_EQ(split_strings(family, count, text, 9), Fields(count, "former content"));
       EXPECT_EQ(heap.callocs(), static_cast<long>(count));
+      EXPECT_EQ(heap.last_calloc(), 9U + 1U);
       EXPECT_EQ(capture.text(), banners(refused, "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem"));
     }
   }

@@ -47,4 +47,7 @@ TEST(CopyStack, SizeZeroAndNegative) {
   EXPECT_STREQ(text.data(), "abc");
   EXPECT_STREQ(integer.data(), "-5");
   EXPECT_STREQ(real.data(), "0.250000");
+  GuardedBuffer longest(318);
+  EXPECT_TRUE(Orbane::Zeph_Copy_Stack(longest.data(), -DBL_MAX, -1));
+  EXPECT_EQ(std::string(longest.data()).size(), 317U);
 }

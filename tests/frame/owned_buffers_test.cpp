@@ -53,6 +53,7 @@ TEST(CopyMem, DecidesByTheHeldText) {
   ASSERT_TRUE(Orbane::Zeph_Copy_Mem(&held.block, "xyz"));
 #ifndef _WIN32
   EXPECT_EQ(heap.callocs(), 1) << "a longer text gets a new block, room or not";
+  EXPECT_EQ(heap.last_calloc(), sizeof "xyz");
 #endif
   EXPECT_STREQ(held.block, "xyz");
   ASSERT_TRUE(Orbane::Zeph_Copy_Mem(&held.block, nullptr));

@@ -85,6 +85,8 @@ TEST(Splicing, SizeBoundsTheText) {
         << size;
   }
   EXPECT_EQ(Orbane::Zeph_Splicing(900, "%s%c%s", longer.c_str(), 0, "y"), longer);
+  EXPECT_EQ(Orbane::Zeph_Splicing(1000, "%s%ls", longer.c_str(), L"\x4E2D").substr(0, 600), longer)
+      << "a print that fails leaves what it has";
   EXPECT_EQ(errno, 9);
   EXPECT_THROW(Orbane::Zeph_Splicing(-1, "%d", 5), std::bad_alloc);
   EXPECT_THROW(Orbane::Zeph_Splicing(INT_MIN, "%d", 5), std::bad_alloc);

@@ -52,6 +52,9 @@ TEST(SubString, ByPosition) {
     EXPECT_EQ(outcome(row.text, strict), row.string);
     EXPECT_EQ(outcome(row.text, loose), row.loose);
   });
+  char own[] = "0123456789012345678901234567890123456789abcdef";
+  EXPECT_TRUE(Orbane::Zeph_Get_SubString(own, 3, -1, own)) << "the text as its own output";
+  EXPECT_STREQ(own, "3456789012345678901234567890123456789abcdef");
   GuardedText bare("hello", End::bare);
   char piece[4];
   EXPECT_TRUE(Orbane::Zeph_Get_SubString(bare.data(), 2, 3, piece)) << "reads what it takes";

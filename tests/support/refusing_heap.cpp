@@ -27,6 +27,7 @@ struct Gate {
 };
 
 Gate calloc_gate;
+std::atomic<std::size_t> last_size{0};
 Gate new_gate;
 
 }  // namespace
@@ -39,6 +40,7 @@ __attribute__((weak)) void* __interceptor_calloc(std::size_t count, std::size_t 
 void* __libc_calloc(std::size_t count, std::size_t size);
 
 void* calloc(std::size_t count, std::size_t size) {
+  last_size = count * size;
   if (calloc_gate.refuses()) {
     errno = ENOMEM;
     return nullptr;
@@ -84,6 +86,10 @@ void RefusingHeap::refuse_new(long first, long count) {
 
 long RefusingHeap::callocs() const {
   return calloc_gate.seen;
+}
+
+std::size_t RefusingHeap::last_calloc() const {
+  return last_size;
 }
 
 long RefusingHeap::news() const {

@@ -12,6 +12,8 @@
 #ifndef ZEPH_TESTS_SUPPORT_REFUSING_HEAP_H
 #define ZEPH_TESTS_SUPPORT_REFUSING_HEAP_H
 
+#include <cstddef>
+
 namespace zeph_test {
 
 class RefusingHeap {
@@ -24,6 +26,7 @@ class RefusingHeap {
   void refuse_calloc(long first, long count = 1);
   void refuse_new(long first, long count = 1);
   long callocs() const;
+  std::size_t last_calloc() const;  // the bytes of the newest request
   long news() const;
 };
 
