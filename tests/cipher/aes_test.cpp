@@ -90,6 +90,10 @@ TEST_P(AesPath, TakesEveryNumberOfBlocks) {
     reset_key(random_bytes(32 - 8 * (count % 3)));
     const auto *const behind = g_aes.w + 16 * (g_aes.Nr + 1), *const end = g_aes.w + sizeof g_aes.w;
     EXPECT_EQ(std::count(behind, end, 0), end - behind);
+    zeph::AesContext again = g_aes;
+    std::memset(again.w, 0xA5, sizeof again.w);
+    again.KeyExpansion();
+    EXPECT_EQ(std::memcmp(&again, &g_aes, sizeof again), 0);
     const Bytes in = random_bytes(16 * count);
     expect_as_one_by_one(GetParam().encrypt, zeph::encrypt_blocks_portable, in);
     expect_as_one_by_one(GetParam().decrypt, zeph::decrypt_blocks_portable, in);

@@ -44,6 +44,7 @@ const struct {
     {"a blank behind", "5 ", 0, before, 5.0},
     {"a comma", "1,5", 0, before, 1.0},
     {"a hexadecimal form", "0x10", 0, before, 16.0},
+    {"its letter in capitals", "0X10", 0, before, 16.0},
     {"infinity as a word", "-inf", 0, before, -infinity},
     {"negative zero", "-0e99999999999999999999", 2, -0.0, -0.0},
     {"too large", "-1e400", 2, -infinity, -infinity},
