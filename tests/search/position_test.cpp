@@ -66,7 +66,7 @@ TEST(Position, PiecesOfLongTexts) {
     const std::string pattern = std::string(size / 2, 'x') + "Y" + std::string(size / 2, 'x');
     for (const std::size_t piece : {128u, 2048u, 2176u, 16384u, 34944u, 51328u}) {
       for (const std::size_t back : {std::size_t{0}, size / 2 + 1, size + 1}) {
-        const std::string head(piece > back ? piece - back : 0, 'x');
+        const std::string head(piece > back ? piece - back : 0, 'w');
         expect_position(head + pattern + "tail", pattern);
         expect_position(head + pattern.substr(1), pattern + 'z');
       }
