@@ -21,7 +21,7 @@ fail() {
 # Each of these works in build/PRESET, without the benchmarks.
 configure() {
   need_tools cmake=cmake ninja=ninja-build g++=g++
-  need_packages libgtest-dev
+  need_packages libgtest-dev locales
   cmake --preset "$1" -D ZEPH_BUILD_BENCH=OFF
 }
 

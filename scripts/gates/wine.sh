@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs the tests of the 64-bit Windows build under Wine.
+# Runs the tests and the example host of the 64-bit Windows build under Wine.
 . "$(dirname "${BASH_SOURCE[0]}")/../gate_lib.sh"
 
 need_packages wine wine64 || skip "Wine cannot be installed here"
@@ -17,6 +17,10 @@ for library in libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll; do
 done
 export WINEPATH
 
+# Directly, without ctest: a Wine process for each test would take seconds every time.
 for program in build/mingw64/tests/*_tests.exe; do
   wine "$program" --gtest_brief=1
 done
+example=examples/equipment_log
+cmake -D HOST="wine;$root/build/mingw64/$example.exe" -D SOURCE="$root/$example" \
+  -P "$example/check_host.cmake"
