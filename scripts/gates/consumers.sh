@@ -36,7 +36,6 @@ for kind in release static; do
   pkg_config_host "pkg_config_$kind" "$work/moved/$kind" tests/consumer/consumer.cpp
 done
 host subdirectory -D ZEPH_SOURCE="$root"
-host subdirectory_static -D ZEPH_SOURCE="$root" -D BUILD_SHARED_LIBS=OFF
 
 # The first C++ block of the README, and the lines that its comments promise.
 # shellcheck disable=SC2016  # backticks are Markdown's here
