@@ -72,7 +72,11 @@ void print_table(bool all_peers) {
   std::printf("%-10s %-28s %-24s %9s %7s   %-30s %9s %6s\n", "family", "operation", "input",
               "Zeph ns", "GB/s", all_peers ? "peer" : "best peer", "ns", "ratio");
   std::size_t below = 0;
-  for (const auto& row : session().rows) below += print_row(*row, all_peers) ? 1 : 0;
+  for (const auto& row : session().rows) {
+    if (!print_row(*row, all_peers)) continue;
+    ++below;
+    if (!row->reason().empty()) row->note("below the mark: " + row->reason());
+  }
   std::printf(
       "\n%zu rows, %zu below %.1f. ratio = peer's time / Zeph's time; above 1 Zeph is faster."
       "\n",
@@ -115,6 +119,11 @@ Row& Row::missing_peer(const char* name) {
   if (std::find(remarks.begin(), remarks.end(), remark) == remarks.end()) {
     remarks.push_back(remark);
   }
+  return *this;
+}
+
+Row& Row::reason(std::string text) {
+  reason_ = std::move(text);
   return *this;
 }
 

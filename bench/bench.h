@@ -67,7 +67,10 @@ class Row {
   // A peer that this build does not have.
   Row& missing_peer(const char* name);
 
-  // A remark that is printed below the table, for example why a row is slower than its peer.
+  // Why the row may fall below the mark; printed below the table if it does.
+  Row& reason(std::string text);
+
+  // A remark that is printed below the table.
   Row& note(const std::string& text);
 
   const std::string& family() const {
@@ -81,6 +84,9 @@ class Row {
   }
   std::size_t bytes() const {
     return bytes_;
+  }
+  const std::string& reason() const {
+    return reason_;
   }
   const std::vector<std::unique_ptr<Timing>>& timings() const {
     return timings_;
@@ -116,6 +122,7 @@ class Row {
   std::size_t bytes_;
   std::function<std::string()> outputs_;
   std::string expected_;
+  std::string reason_;
   std::vector<std::unique_ptr<Timing>> timings_;
 };
 

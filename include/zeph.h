@@ -601,7 +601,7 @@ ZEPH_API void Zeph_Join(const std::vector<std::string>& list, char delimiter, st
 /// | blanks ahead   | refused                   | skipped                   | skipped        |
 /// | integer "+5"   | refused                   | 5                         | 5              |
 /// | integer "0x1F" | 31                        | 0                         | 31             |
-/// | no digit       | integers 0, reals refused | 0                         | 0              |
+/// | no digit       | integers 0, reals refused | 0, but "inf" and "nan"    | 0              |
 ///
 /// *Bounds*: a value passes if `minimum <= value <= maximum`. Two equal bounds are no bound at all:
 /// (5, 5) does not ask for the value 5. A minimum above the maximum refuses every value. The value
@@ -761,7 +761,7 @@ ZEPH_API double Zeph_Ext_Dbl_From_Str(const char* text, int start, int count, ch
 /// them. An exponent has at least two digits ("1.5e+03"); from a runtime that always writes three,
 /// leading zeros are taken out ("1.5e+3").
 ///
-/// `out` has room for 64 bytes: a text is cut at 63 bytes, which only fixed notation of 1e52 and
+/// `out` has room for 64 bytes: a text is cut at 63 bytes, which only fixed notation of 1e51 and
 /// above can reach. Bytes behind the terminator stay as they were.
 ///
 ///     char text[64];

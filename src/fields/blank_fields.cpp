@@ -1,6 +1,8 @@
 #include "fields/blank_fields.h"
 
-#include "frame/fixed_buffers.h"
+#include <cstring>
+
+#include "scan/byte_mask.h"
 #include "scan/find_byte.h"
 #include "zeph.h"
 
@@ -14,27 +16,55 @@ const char* skip_blanks(const char* text) {
   return text;
 }
 
+// Puts the fields that end within the next bytes of the text, all found by one look. Returns where
+// the next field starts, or NULL if the text ended and all fields are put.
+//
+// From wherever a field starts, a split reads at least `limit` bytes or up to the terminator: no
+// field ends it before it has seen that many. So they are there to be looked at.
+const char* put_near_fields(FieldWriter& writer, const char* text, std::size_t limit) {
+  const std::size_t most = std::min(limit, mask_bytes + 1);
+  const std::size_t size = strnlen(text, most);
+  const char* from = text;
+  std::uint64_t blanks = byte_mask(text, std::min(size, mask_bytes), blank);
+  while (blanks != 0 && writer.left() > 1) {
+    const char* const end = text + lowest_place(blanks);
+    writer.put(from, end);
+    from = skip_blanks(end + 1);
+    const auto seen = static_cast<std::size_t>(from - text);
+    blanks = seen < mask_bytes ? blanks >> seen << seen : 0;
+  }
+  if (size == most) return from;
+  writer.put(from, text + size);
+  writer.put_empty();
+  return nullptr;
+}
+
 }  // namespace
 
 void split_blank_fields(const char* text, FieldOutputs outputs, std::size_t limit) {
-  if (limit == 0) {
-    clear_fields(outputs, 0);
-    return;
+  FieldWriter writer(outputs, limit);
+  if (limit == 0) return writer.put_empty();
+  // A look pays if it may find two blanks, and for as long as fields are short.
+  if (outputs.count > 2) {
+    const char* before;
+    do {
+      before = text;
+      text = put_near_fields(writer, text, limit);
+      if (!text) return;
+    } while (text != before && writer.left() > 2);
   }
-  const std::size_t last = outputs.count - 1;
-  text = put_field(outputs.fields[0], text, blank, limit);
-  for (std::size_t i = 1; i < last; ++i) {
-    text = skip_blanks(text);
+  if (writer.left() == outputs.count) {
+    const char* const end = find_byte_or_end(text, blank);
+    writer.put(text, end);
+    text = skip_blanks(end);
+  }
+  while (writer.left() > 1) {
     const char* const end = find_byte_or_end(text, blank, limit);
-    const auto size = static_cast<std::size_t>(end - text);
-    put_text(outputs.fields[i], text, size);
-    if (size == limit) {
-      clear_fields(outputs, i + 1);
-      return;
-    }
-    text = end;
+    writer.put(text, end);
+    if (static_cast<std::size_t>(end - text) == limit) return writer.put_empty();
+    text = skip_blanks(end);
   }
-  put_rest(outputs.fields[last], skip_blanks(text), limit);
+  writer.put(text, text + strnlen(text, limit));
 }
 
 namespace {

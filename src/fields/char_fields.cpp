@@ -1,20 +1,51 @@
 #include "fields/char_fields.h"
 
+#include <cstring>
+
+#include "scan/byte_mask.h"
+#include "scan/find_byte.h"
 #include "zeph.h"
 
 namespace zeph {
+namespace {
+
+// Puts the fields that end within the next bytes of the text, all found by one look. Returns where
+// the next field starts, or NULL if the text ended and all fields are put.
+const char* put_near_fields(FieldWriter& writer, const char* text, char delimiter) {
+  const std::size_t size = strnlen(text, mask_bytes + 1);
+  const char* from = text;
+  std::uint64_t places = byte_mask(text, std::min(size, mask_bytes), delimiter);
+  for (; places != 0 && writer.left() > 1; places &= places - 1) {
+    const char* const end = text + lowest_place(places);
+    writer.put(from, end);
+    from = end + 1;
+  }
+  if (size > mask_bytes) return from;
+  writer.put(from, text + size);
+  writer.put_empty();
+  return nullptr;
+}
+
+}  // namespace
 
 void split_char_fields(const char* text, char delimiter, FieldOutputs outputs, std::size_t limit) {
-  const std::size_t last = outputs.count - 1;
-  for (std::size_t i = 0; i < last; ++i) {
-    text = put_field(outputs.fields[i], text, delimiter, limit);
-    if (*text == '\0') {
-      clear_fields(outputs, i + 1);
-      return;
-    }
-    ++text;
+  FieldWriter writer(outputs, limit);
+  // A look pays if it may find two delimiters, and for as long as fields are short.
+  if (outputs.count > 2) {
+    const char* before;
+    do {
+      before = text;
+      text = put_near_fields(writer, text, delimiter);
+      if (!text) return;
+    } while (text != before && writer.left() > 2);
   }
-  put_rest(outputs.fields[last], text, limit);
+  while (writer.left() > 1) {
+    const char* const end = find_byte_or_end(text, delimiter);
+    writer.put(text, end);
+    if (*end == '\0') return writer.put_empty();
+    text = end + 1;
+  }
+  writer.put(text, text + strnlen(text, limit));
 }
 
 namespace {

@@ -1,12 +1,13 @@
-// What the field splitters share: the outputs of one call, and the String forms.
+// What the field splitters share: writing what they found, and the String forms.
 #ifndef ZEPH_FIELDS_FIELD_OUTPUTS_H
 #define ZEPH_FIELDS_FIELD_OUTPUTS_H
 
-#include <array>
+#include <algorithm>
 #include <cstddef>
 #include <string>
 
 #include "frame/owned_buffers.h"
+#include "scan/move_bytes.h"
 
 namespace zeph {
 
@@ -24,15 +25,43 @@ constexpr std::size_t field_limit(int limit) {
 // What several separators in a row do.
 enum class SeparatorRun { one_separator, each_cuts };
 
-// Copies the field at `text`, up to `delimiter` or the end, cut at `limit` bytes. Returns where the
-// field ends in the text.
-const char* put_field(char* out, const char* text, char delimiter, std::size_t limit);
-
-// Copies all that remains of the text, cut at `limit` bytes. `out` may be the text itself.
-void put_rest(char* out, const char* text, std::size_t limit);
+// Writes the bytes from `from` up to `end`, cut at `limit`, as a field. They may overlap `out`.
+inline void put_field(char* out, const char* from, const char* end, std::size_t limit) {
+  const std::size_t size = std::min(static_cast<std::size_t>(end - from), limit);
+  move_bytes(out, from, size);
+  out[size] = '\0';
+}
 
 // Makes every field from number `first` (from 0) on the empty text.
-void clear_fields(FieldOutputs outputs, std::size_t first);
+inline void clear_fields(FieldOutputs outputs, std::size_t first) {
+  for (std::size_t i = first; i < outputs.count; ++i) outputs.fields[i][0] = '\0';
+}
+
+// Writes the fields of one split, the first one first. The last output may be the text itself: by
+// then the splitter has read all that it reads.
+class FieldWriter {
+ public:
+  FieldWriter(FieldOutputs outputs, std::size_t limit)
+      : next_(outputs.fields), end_(outputs.fields + outputs.count), limit_(limit) {}
+
+  // How many fields are still to be written.
+  std::size_t left() const {
+    return static_cast<std::size_t>(end_ - next_);
+  }
+  // Writes the bytes from `from` up to `end` as the next field.
+  void put(const char* from, const char* end) {
+    put_field(*next_++, from, end, limit_);
+  }
+  // Makes all fields that are left the empty text.
+  void put_empty() {
+    while (next_ != end_) **next_++ = '\0';
+  }
+
+ private:
+  char* const* next_;
+  char* const* end_;
+  std::size_t limit_;
+};
 
 // The String form of a splitter: split(outputs) cuts into work buffers, then the outputs are
 // replaced. They keep what they held if a work buffer was refused.

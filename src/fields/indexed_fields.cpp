@@ -24,12 +24,10 @@ const char* skip_separators(const char* text, char separator) {
 void put_word(char* out, const char* text, char separator, int index, std::size_t limit) {
   for (; index >= 0; --index) {
     text = skip_separators(text, separator);
-    if (index == 0) {
-      put_field(out, text, separator, limit);
-      return;
-    }
-    text = find_byte_or_end(text, separator);
-    if (*text == '\0') break;
+    const char* const end = find_byte_or_end(text, separator);
+    if (index == 0) return put_field(out, text, end, limit);
+    if (*end == '\0') break;
+    text = end;
   }
   *out = '\0';
 }

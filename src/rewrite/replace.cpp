@@ -10,6 +10,7 @@
 
 #include "frame/owned_buffers.h"
 #include "scan/find_needle.h"
+#include "scan/move_bytes.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -57,11 +58,7 @@ struct GapText {
       done = rest += n;
       return;
     }
-    if (n < 16) {
-      for (std::size_t i = 0; i < n; ++i) bytes[done + i] = bytes[rest + i];
-    } else {
-      std::memmove(bytes + done, bytes + rest, n);
-    }
+    move_bytes(bytes + done, bytes + rest, n);
     done += n;
     rest += n;
   }
@@ -69,12 +66,12 @@ struct GapText {
   void take_back(std::size_t n) {
     done -= n;
     rest -= n;
-    std::memmove(bytes + rest, bytes + done, n);
+    move_bytes(bytes + rest, bytes + done, n);
   }
 };
 
 void put(char* to, View bytes) {
-  if (!bytes.empty()) std::memmove(to, bytes.data(), bytes.size());
+  if (!bytes.empty()) move_bytes(to, bytes.data(), bytes.size());
 }
 
 // Changes the occurrence of `pattern` at index `at` of the rest. The gap has the room.

@@ -1,0 +1,70 @@
+// Copying where most pieces are short.
+#ifndef ZEPH_SCAN_MOVE_BYTES_H
+#define ZEPH_SCAN_MOVE_BYTES_H
+
+#include <cstddef>
+#include <cstring>
+
+namespace zeph {
+
+template <std::size_t size>
+struct Piece {
+  char bytes[size];
+};
+
+template <std::size_t size>
+Piece<size> load_piece(const char* from) {
+  Piece<size> piece;
+  std::memcpy(&piece, from, size);
+  return piece;
+}
+
+template <std::size_t size>
+void store_piece(char* to, Piece<size> piece) {
+  std::memcpy(to, &piece, size);
+}
+
+// Copies `size` bytes, which are at least `half` and at most twice as many: the first and the last
+// `half`. All are read before any is written, so that the places may overlap.
+template <std::size_t half>
+void move_ends(char* to, const char* from, std::size_t size) {
+  const Piece<half> head = load_piece<half>(from), tail = load_piece<half>(from + size - half);
+  store_piece(to, head);
+  store_piece(to + size - half, tail);
+}
+
+// The same for 32 to 64 bytes, in pieces that fit a vector register.
+inline void move_ends_32(char* to, const char* from, std::size_t size) {
+  const char* const tail = from + size - 32;
+  const Piece<16> a = load_piece<16>(from), b = load_piece<16>(from + 16);
+  const Piece<16> c = load_piece<16>(tail), d = load_piece<16>(tail + 16);
+  store_piece(to, a);
+  store_piece(to + 16, b);
+  store_piece(to + size - 32, c);
+  store_piece(to + size - 16, d);
+}
+
+// Copies `size` bytes; the places may overlap. A short piece costs no call.
+inline void move_bytes(char* to, const char* from, std::size_t size) {
+  if (size < 16) {
+    if (size >= 8) {
+      move_ends<8>(to, from, size);
+    } else if (size >= 4) {
+      move_ends<4>(to, from, size);
+    } else if (size >= 2) {
+      move_ends<2>(to, from, size);
+    } else if (size == 1) {
+      *to = *from;
+    }
+  } else if (size < 32) {
+    move_ends<16>(to, from, size);
+  } else if (size <= 64) {
+    move_ends_32(to, from, size);
+  } else {
+    std::memmove(to, from, size);
+  }
+}
+
+}  // namespace zeph
+
+#endif  // ZEPH_SCAN_MOVE_BYTES_H
