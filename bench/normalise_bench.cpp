@@ -104,7 +104,7 @@ void add_trim_rows(const std::string& text, const std::string& input) {
 }  // namespace
 
 void register_normalise_rows() {
-  for (const std::size_t size : {8, 16, 64, 4096}) add_fold_rows(size);
+  for (const std::size_t size : {8U, 16U, 64U, 4096U}) add_fold_rows(size);
   const std::string blanks(524288, ' ');
   add_trim_rows("Chamber Pressure", "16 bytes, no blanks");
   add_trim_rows("   Chamber Pressure 0.75 mTorr    ", "34 bytes, 3 and 4 blanks");

@@ -73,7 +73,7 @@ void add_adversarial_rows(std::size_t size) {
 
 void register_search_rows() {
   add_rows({"S1F13", "F"}, "5 bytes, F");
-  for (const std::size_t size : {16, 64, 4096, 1048576}) {
+  for (const std::size_t size : {16U, 64U, 4096U, 1048576U}) {
     const std::string text = prose(size), name = size_text(size);
     std::string alarm = text;
     alarm.replace(size - 6, 5, "ALARM");
