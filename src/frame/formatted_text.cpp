@@ -1,35 +1,41 @@
 #include "frame/formatted_text.h"
 
-#include <cstdarg>
 #include <cstdio>
 
 #include "platform/platform.h"
 
 namespace zeph {
 
-int format_bounded(char* buffer, std::size_t size, const char* format, ...) {
+int format_list_bounded(char* buffer, std::size_t size, const char* format,
+                        std::va_list arguments) {
   const ErrorStateKeeper keeper;
+  std::va_list copy;
+  va_copy(copy, arguments);
+  const int length = std::vsnprintf(buffer, size, format, copy);
+  va_end(copy);
+  return length;
+}
+
+int format_bounded(char* buffer, std::size_t size, const char* format, ...) {
   std::va_list arguments;
   va_start(arguments, format);
-  const int length = std::vsnprintf(buffer, size, format, arguments);
+  const int length = format_list_bounded(buffer, size, format, arguments);
   va_end(arguments);
   return length;
 }
 
 int measure_format(const char* format, ...) {
-  const ErrorStateKeeper keeper;
   std::va_list arguments;
   va_start(arguments, format);
-  const int length = std::vsnprintf(nullptr, 0, format, arguments);
+  const int length = format_list_bounded(nullptr, 0, format, arguments);
   va_end(arguments);
   return length;
 }
 
 int format_strict(char* buffer, std::size_t size, const char* format, ...) {
-  const ErrorStateKeeper keeper;
   std::va_list arguments;
   va_start(arguments, format);
-  const int length = std::vsnprintf(buffer, size, format, arguments);
+  const int length = format_list_bounded(buffer, size, format, arguments);
   va_end(arguments);
   if (length >= 0 && static_cast<std::size_t>(length) < size) return length;
   if (size > 0) buffer[0] = '\0';

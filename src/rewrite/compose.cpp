@@ -1,13 +1,11 @@
 // Texts and numbers appended to a byte text, and formats printed into a String.
 #include <charconv>
 #include <cstdarg>
-#include <cstdio>
 #include <cstring>
 #include <new>
 
 #include "frame/fixed_buffers.h"
 #include "frame/formatted_text.h"
-#include "platform/platform.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -19,27 +17,18 @@ char* append(char* text, const char* bytes, std::size_t size) {
   return text;
 }
 
-int print(char* buffer, std::size_t size, const char* format, std::va_list arguments) {
-  const ErrorStateKeeper keeper;
-  std::va_list copy;
-  va_copy(copy, arguments);
-  const int length = std::vsnprintf(buffer, size, format, copy);
-  va_end(copy);
-  return length;
-}
-
 // The printed text, cut to a buffer of `size` bytes, up to its first zero byte. Short texts are
 // printed once and take no heap but the result's; a longer one is printed again into the result.
 std::string splice(std::size_t size, const char* format, std::va_list arguments) {
   char near[512] = "";
   const std::size_t room = size < sizeof near ? size : sizeof near;
-  const int length = print(near, room, format, arguments);
+  const int length = format_list_bounded(near, room, format, arguments);
   const bool printed_whole = length >= 0 && static_cast<std::size_t>(length) < room;
   if (printed_whole || room == size) return std::string(near, strnlen(near, room - 1));
   // A print that failed leaves what it had printed so far, as far as the room goes.
   const std::size_t whole = length < 0 ? size : static_cast<std::size_t>(length);
   std::string text(whole < size ? whole : size - 1, '\0');
-  print(text.data(), text.size() + 1, format, arguments);
+  format_list_bounded(text.data(), text.size() + 1, format, arguments);
   text.resize(std::strlen(text.c_str()));
   return text;
 }
