@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <strings.h>
+
 #include <climits>
 #include <string>
 
@@ -56,6 +58,7 @@ TEST(Compare, TheFoldFollowsTheLocale) {
   EXPECT_FALSE(Orbane::Zeph_Compare_L("\xC4", "\xE4"));
   const ScopedLocale locale(LC_CTYPE, "de_DE", "ISO-8859-1");
   if (!locale.in_force()) GTEST_SKIP() << locale.reason();
+  if (strcasecmp("\xC4", "\xE4") != 0) GTEST_SKIP() << "a sanitizer's strcasecmp knows no locale";
   EXPECT_TRUE(Orbane::Zeph_Compare_L("\xC4", "\xE4"));
   EXPECT_TRUE(Orbane::Zeph_Compare_L("\xC4", "\xE4", 1));
 }
