@@ -78,6 +78,10 @@ bool runtime_is_exact() {
   return scanned == 1e126 && std::strtod("1e126", nullptr) == 1e126;
 }
 
+std::size_t below(std::mt19937_64& random, std::size_t bound) {
+  return static_cast<std::size_t>(random() % bound);
+}
+
 // A number in the middle between two doubles, or a hair above it: an odd number of 54 bits, divided
 // by a power of two.
 std::string middle_of_doubles(std::mt19937_64& random) {
@@ -87,14 +91,14 @@ std::string middle_of_doubles(std::mt19937_64& random) {
   char digits[40];
   std::snprintf(digits, sizeof digits, "%#.*f", places, fraction);
   const std::string text = std::to_string(whole) + (digits + 1);
-  return random() % 2 == 0 ? text : text + std::string(random() % 20, '0') + "1";
+  return random() % 2 == 0 ? text : text + std::string(below(random, 20), '0') + "1";
 }
 
 // Often zeros, with a point somewhere or nowhere.
 std::string any_digits(std::mt19937_64& random) {
-  std::string text(1 + random() % (random() % 50 == 0 ? 400 : 24), '0');
+  std::string text(1 + below(random, random() % 50 == 0 ? 400 : 24), '0');
   for (char& digit : text) digit = "0123456789000"[random() % 13];
-  const std::size_t point = random() % (2 * text.size());
+  const std::size_t point = below(random, 2 * text.size());
   if (point < text.size()) text.insert(point, ".");
   const auto exponent = static_cast<int>(random() % 700) - 350;
   return random() % 2 == 0 ? text : "-" + text + "e" + std::to_string(exponent);
