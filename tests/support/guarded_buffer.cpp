@@ -1,8 +1,14 @@
 #include "support/guarded_buffer.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <map>
+#include <mutex>
 #include <new>
+#include <vector>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -27,9 +33,6 @@ bool open_pages(char* start, std::size_t size) {
   DWORD before;
   return VirtualProtect(start, size, PAGE_READWRITE, &before) != 0;
 }
-void unmap(void* start, std::size_t) {
-  VirtualFree(start, 0, MEM_RELEASE);
-}
 #else
 std::size_t page_size() {
   return static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
@@ -41,35 +44,86 @@ void* map_inaccessible(std::size_t size) {
 bool open_pages(char* start, std::size_t size) {
   return mprotect(start, size, PROT_READ | PROT_WRITE) == 0;
 }
-void unmap(void* start, std::size_t size) {
-  munmap(start, size);
-}
 #endif
+
+// So many bytes on each side of a room are watched, if they are there.
+constexpr std::ptrdiff_t watched = 64;
+
+// Open pages between inaccessible ones are kept for the next room of their size: mapping them anew
+// would take most of a test's time.
+std::mutex pool_lock;
+std::map<std::size_t, std::vector<char*>> pool;
+
+char* take_pages(std::size_t open) {
+  const std::lock_guard<std::mutex> lock(pool_lock);
+  std::vector<char*>& ready = pool[open];
+  if (!ready.empty()) {
+    char* const start = ready.back();
+    ready.pop_back();
+    return start;
+  }
+  const std::size_t page = page_size();
+  void* const pages = map_inaccessible(open + 2 * page);
+  if (!pages || !open_pages(static_cast<char*>(pages) + page, open)) throw std::bad_alloc();
+  return static_cast<char*>(pages) + page;
+}
+
+void give_back(char* start, std::size_t open) {
+  const std::lock_guard<std::mutex> lock(pool_lock);
+  pool[open].push_back(start);
+}
+
+bool holds_pattern(const char* from, const char* to) {
+  return std::all_of(from, to, [](char byte) { return byte == GuardedBuffer::pattern; });
+}
+
+thread_local Placement placement_now;
 
 }  // namespace
 
-GuardedBuffer::GuardedBuffer(std::size_t size, Edge edge) : size_(size) {
-  const std::size_t page = page_size();
-  const std::size_t open = std::max<std::size_t>(1, (size + page - 1) / page) * page;
-  pages_size_ = open + 2 * page;
-  pages_ = map_inaccessible(pages_size_);
-  if (!pages_) throw std::bad_alloc();
-  char* const start = static_cast<char*>(pages_) + page;
-  if (!open_pages(start, open)) throw std::bad_alloc();
-  data_ = edge == Edge::back ? start + open - size : start;
-  std::memset(start, pattern, open);
+ScopedPlacement::ScopedPlacement(Placement placement) : before_(placement_now) {
+  placement_now = placement;
+}
+
+ScopedPlacement::~ScopedPlacement() {
+  placement_now = before_;
+}
+
+Placement ScopedPlacement::current() {
+  return placement_now;
+}
+
+GuardedBuffer::GuardedBuffer(std::size_t size, Placement placement) : size_(size) {
+  static const std::size_t page = page_size();
+  const std::size_t open = (size + placement.gap + page) / page * page;
+  start_ = take_pages(open);
+  end_ = start_ + open;
+  data_ = placement.edge == Edge::back ? end_ - placement.gap - size : start_ + placement.gap;
+  std::memset(watched_from(), pattern, static_cast<std::size_t>(watched_to() - watched_from()));
 }
 
 GuardedBuffer::~GuardedBuffer() {
-  unmap(pages_, pages_size_);
+  if (!holds_pattern(watched_from(), data_) || !holds_pattern(data_ + size_, watched_to())) {
+    std::fputs("a byte beside the caller's room was written\n", stderr);
+    std::abort();
+  }
+  give_back(start_, static_cast<std::size_t>(end_ - start_));
+}
+
+char* GuardedBuffer::watched_from() const {
+  return data_ - std::min(data_ - start_, watched);
+}
+
+char* GuardedBuffer::watched_to() const {
+  return data_ + size_ + std::min(end_ - data_ - static_cast<std::ptrdiff_t>(size_), watched);
 }
 
 bool GuardedBuffer::untouched(std::size_t from) const {
-  return std::all_of(data_ + from, data_ + size_, [](char byte) { return byte == pattern; });
+  return holds_pattern(data_ + from, data_ + size_);
 }
 
-GuardedText::GuardedText(std::string_view text, End end, Edge edge)
-    : GuardedBuffer(text.size() + (end == End::terminated ? 1 : 0), edge) {
+GuardedText::GuardedText(std::string_view text, End end, Placement placement)
+    : GuardedBuffer(text.size() + (end == End::terminated ? 1 : 0), placement) {
   if (!text.empty()) std::memcpy(data(), text.data(), text.size());
   if (end == End::terminated) data()[text.size()] = '\0';
 }

@@ -1,0 +1,66 @@
+#include "support/draw.h"
+
+#include <climits>
+
+namespace zeph_test {
+
+unsigned char Draw::byte() {
+  if (endless_) return static_cast<unsigned char>(random_() >> 11);
+  if (left_ == 0) return 0;
+  --left_;
+  return *bytes_++;
+}
+
+std::size_t Draw::below(std::size_t bound) {
+  std::size_t value = byte();
+  if (bound > 256) value = value << 8 | byte();
+  return value % bound;
+}
+
+int Draw::between(int low, int high) {
+  return low + static_cast<int>(below(static_cast<std::size_t>(high - low) + 1));
+}
+
+int Draw::any_int() {
+  const int ends[] = {INT_MIN, INT_MIN + 1, -1, 0, 1, INT_MAX - 1, INT_MAX};
+  switch (below(4)) {
+    case 0:
+      return ends[below(7)];
+    case 1: {
+      std::uint32_t word = 0;
+      for (int i = 0; i < 4; ++i) word = word << 8 | byte();
+      return static_cast<int>(word);
+    }
+    default:
+      return between(-4, 70);
+  }
+}
+
+std::string Draw::text(std::size_t longest, std::string_view alphabet) {
+  return filled(length_ ? *length_ : below(longest + 1), alphabet);
+}
+
+std::string Draw::piece(std::size_t longest, std::string_view alphabet) {
+  return filled(below(longest + 1), alphabet);
+}
+
+std::string Draw::bytes(std::size_t longest) {
+  std::string text(length_ ? *length_ : below(longest + 1), '\0');
+  for (char& c : text) c = static_cast<char>(byte());
+  return text;
+}
+
+std::string Draw::filled(std::size_t size, std::string_view alphabet) {
+  std::string text(size, '\0');
+  for (char& c : text) {
+    const unsigned char drawn = byte();
+    if (!alphabet.empty()) {
+      c = alphabet[drawn % alphabet.size()];
+    } else {
+      c = drawn == 0 ? ' ' : static_cast<char>(drawn);
+    }
+  }
+  return text;
+}
+
+}  // namespace zeph_test
