@@ -18,8 +18,21 @@ fail() {
   exit 1
 }
 
+# Gates may run side by side, but not two in one build folder: the second one waits here for the
+# first one's end.
+held=" "
+alone_in() {
+  local lock
+  [[ $held != *" $1 "* ]] || return 0
+  mkdir -p build/locks
+  exec {lock}>"build/locks/$1"
+  flock "$lock"
+  held+="$1 "
+}
+
 # Each of these works in build/PRESET, without the benchmarks.
 configure() {
+  alone_in "$1"
   need_tools cmake=cmake ninja=ninja-build g++=g++
   need_packages libgtest-dev locales
   cmake --preset "$1" -D ZEPH_BUILD_BENCH=OFF

@@ -12,29 +12,35 @@ can_be_root() {
 }
 
 # Installs the named packages. An index that changes on the mirror while it is being read makes
-# apt-get fail, and so does another apt-get at work: hence a fresh index and a new try.
+# apt-get fail, and so does another apt-get at work: hence a fresh index and a new try. Scripts that
+# run side by side install one after the other, and find what the one before has brought.
 # Standard output stays free for the script; on failure, one line says what is missing.
 install_packages() {
-  local try log
+  local try log lock status=1
   if ! command -v apt-get >/dev/null || ! can_be_root; then
     echo "missing here, please install: $*" >&2
     return 1
   fi
+  exec {lock}>"${TMPDIR:-/tmp}/zeph-install.$(id -u).lock"
+  flock "$lock"
   echo "installing: $*" >&2
   log=$(mktemp)
   for try in 1 2 3; do
     as_root apt-get update -qq >"$log" 2>&1 || true
     if as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
       -o DPkg::Lock::Timeout=120 "$@" >>"$log" 2>&1; then
-      rm -f "$log"
-      return 0
+      status=0
+      break
     fi
     [ "$try" -eq 3 ] || sleep 5
   done
-  tail -n 5 "$log" >&2
+  exec {lock}>&-
+  if [ "$status" -ne 0 ]; then
+    tail -n 5 "$log" >&2
+    echo "missing here, and apt-get could not install: $*" >&2
+  fi
   rm -f "$log"
-  echo "missing here, and apt-get could not install: $*" >&2
-  return 1
+  return "$status"
 }
 
 # need_packages PACKAGE...

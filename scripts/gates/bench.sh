@@ -5,6 +5,6 @@
 [ -f bench/CMakeLists.txt ] || skip "no benchmark is there yet"
 need_packages libbenchmark-dev libgtest-dev
 need_tools cmake=cmake ninja=ninja-build g++=g++
-cmake --preset release -D ZEPH_BUILD_BENCH=ON
-cmake --build build/release --target zeph_bench
-build/release/bench/zeph_bench --quick
+cmake --preset release -B build/bench -D ZEPH_BUILD_BENCH=ON
+cmake --build build/bench --target zeph_bench
+build/bench/bench/zeph_bench --quick
