@@ -19,12 +19,10 @@ struct Rule {
 };
 using Rules = std::vector<Rule>;
 
-Rules buffers_rules();
 Rules codepages_rules();
 Rules composition_rules();
 Rules dumps_rules();
 Rules fields_rules();
-Rules normalise_rules();
 Rules numbers_rules();
 Rules records_rules();
 Rules rewriting_rules();
@@ -34,16 +32,14 @@ const struct Family {
   const char* name;
   Rules (*rules)();
 } families[] = {
-    {"buffers", buffers_rules},          // owned and fixed buffers
     {"codepages", codepages_rules},      // UTF-8 and code page 936
-    {"composition", composition_rules},  // append, print, alarm texts
+    {"composition", composition_rules},  // append, print, alarm texts, buffers
     {"dumps", dumps_rules},              // hex dumps, message names
     {"fields", fields_rules},            // from the left and right, by index, lists
-    {"normalise", normalise_rules},      // comparison, case, blanks
     {"numbers", numbers_rules},          // integers, reals, reals as texts
     {"records", records_rules},          // sealed texts
     {"rewriting", rewriting_rules},      // replace, remove, enclosing marks
-    {"search", search_rules},            // search, slices, markers
+    {"search", search_rules},            // search, slices, markers, comparison, case, blanks
 };
 
 }  // namespace zeph_test

@@ -44,5 +44,15 @@ TEST_P(Sweep, EveryLengthAtEveryPlace) {
   }
 }
 
+TEST_P(Sweep, RandomArguments) {
+  for (const Rule& rule : GetParam().rules()) {
+    SCOPED_TRACE(rule.name);
+    for (unsigned seed = 1; seed <= 3000; ++seed) {
+      Draw draw(seed);
+      rule.check(draw);
+    }
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Families, Sweep, testing::ValuesIn(families),
                          [](const auto& family) { return std::string(family.param.name); });

@@ -15,9 +15,7 @@
 
 #include "fields/fields_table.h"
 #include "support/guarded_buffer.h"
-#include "support/refusing_heap.h"
-#include "support/stdout_capture.h"
-#include "support/table.h"
+#include "zeph.h"
 
 namespace zeph_test {
 
@@ -100,42 +98,47 @@ void expect_split(Family family, std::size_t count, const std::string& text, std
   ASSERT_EQ(split_strings(family, count, text, bound, text.size() % 6), expected);
 }
 
-// Every text up to 5 bytes over the alphabet, and fields with lengths around the steps of wide
-// instructions, against the plain rule `model(count, text, limit)`.
-template <typename Family, typename Model>
-void expect_rule(Family family, Model model, const std::string& alphabet, char separator) {
-  for (std::size_t count = 2; count <= 5; ++count) {
-    each_text(alphabet, 5, [&](const std::string& text) {
-      for (const std::size_t limit : {1U, 2U, 3U, 9U}) {
-        expect_split(family, count, text, limit, model(count, text, limit));
-      }
-    });
-    for (std::size_t size = 1; size < 1200; size < 140 ? ++size : size += 101) {
-      const std::string word = std::string(size, 'w') + separator;
-      const std::string text = word + separator + word + word + "x";
-      for (const std::size_t limit : {size / 2 + 1, size, size + 1, size + 5}) {
-        expect_split(family, count, text, limit, model(count, text, limit));
-      }
+// As expect_split, for a family that cuts from the right and has no limit.
+template <typename Family>
+void expect_reverse(Family family, std::size_t count, const std::string& text,
+                    const Fields& expected) {
+  SCOPED_TRACE("'" + text + "' " + std::to_string(count) + " outputs");
+  for (const bool in_place : {false, true}) {
+    const GuardedText buffer(text);
+    std::vector<std::unique_ptr<GuardedText>> rooms;
+    std::vector<char*> outputs;
+    for (std::size_t i = 0; i < count; ++i) {
+      rooms.push_back(std::make_unique<GuardedText>(std::string(text.size(), '#')));
+      outputs.push_back(in_place && i == count - 1 ? buffer.data() : rooms.back()->data());
+    }
+    call_split(family, count, buffer.data(), 0, outputs);
+    ASSERT_EQ(Fields(outputs.begin(), outputs.end()), expected);
+    if (!in_place) {
+      ASSERT_EQ(buffer.data(), text) << "the text is unchanged";
     }
   }
 }
 
-// A String form requests every work buffer, reports each refused one and keeps its outputs.
-template <typename Family>
-void expect_refusals_reported(Family family, const std::string& text) {
-  for (std::size_t count = 2; count <= 5; ++count) {
-    for (std::size_t first = 1; first <= count; ++first) {
-      const long refused = static_cast<long>(count - first + 1);
-      RefusingHeap heap;
-      heap.refuse_calloc(static_cast<long>(first), refused);
-      StdoutCapture capture;
-      EXPECT_EQ(split_strings(family, count, text, 9), Fields(count, "former content"));
-      EXPECT_EQ(heap.callocs(), static_cast<long>(count));
-      EXPECT_EQ(heap.last_calloc(), 9U + 1U);
-      EXPECT_EQ(capture.text(), banners(refused, "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem"));
-    }
+// The families. Those that cut from the right have no limit; the harness passes one on.
+const auto blank_cut = [](const auto& text, int limit, auto&... outputs) {
+  Orbane::Zeph_Seperate(text, outputs..., limit);
+};
+
+struct CharCut {
+  char delimiter;
+  template <typename Text, typename... Outputs>
+  void operator()(const Text& text, int limit, Outputs&... outputs) const {
+    Orbane::Zeph_Seperate_Char(text, delimiter, outputs..., limit);
   }
-}
+};
+
+const auto reverse_blank_cut = [](char* text, int, auto&... outputs) {
+  Orbane::Zeph_Seperate_Reverse(text, outputs...);
+};
+
+const auto reverse_comma_cut = [](char* text, int, auto&... outputs) {
+  Orbane::Zeph_Seperate_Char_Reverse(text, ',', outputs...);
+};
 
 }  // namespace zeph_test
 

@@ -1,9 +1,0 @@
-#include "rules.h"
-
-namespace zeph_test {
-
-Rules buffers_rules() {
-  return {};
-}
-
-}  // namespace zeph_test

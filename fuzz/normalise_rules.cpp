@@ -1,9 +1,0 @@
-#include "rules.h"
-
-namespace zeph_test {
-
-Rules normalise_rules() {
-  return {};
-}
-
-}  // namespace zeph_test
