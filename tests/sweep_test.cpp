@@ -47,7 +47,7 @@ TEST_P(Sweep, EveryLengthAtEveryPlace) {
 TEST_P(Sweep, RandomArguments) {
   for (const Rule& rule : GetParam().rules()) {
     SCOPED_TRACE(rule.name);
-    for (unsigned seed = 1; seed <= 3000; ++seed) {
+    for (unsigned seed = 1; seed <= 20000; ++seed) {
       Draw draw(seed);
       rule.check(draw);
     }

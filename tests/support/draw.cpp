@@ -21,16 +21,19 @@ int Draw::between(int low, int high) {
   return low + static_cast<int>(below(static_cast<std::size_t>(high - low) + 1));
 }
 
+std::uint64_t Draw::word() {
+  std::uint64_t word = 0;
+  for (int i = 0; i < 8; ++i) word = word << 8 | byte();
+  return word;
+}
+
 int Draw::any_int() {
   const int ends[] = {INT_MIN, INT_MIN + 1, -1, 0, 1, INT_MAX - 1, INT_MAX};
   switch (below(4)) {
     case 0:
       return ends[below(7)];
-    case 1: {
-      std::uint32_t word = 0;
-      for (int i = 0; i < 4; ++i) word = word << 8 | byte();
-      return static_cast<int>(word);
-    }
+    case 1:
+      return static_cast<int>(static_cast<std::uint32_t>(word()));
     default:
       return between(-4, 70);
   }

@@ -29,6 +29,7 @@ class Draw {
   std::size_t below(std::size_t bound);  // 0 to bound - 1; bound is at most 65536
   int between(int low, int high);        // both included, at most 65536 values
   int any_int();                         // a small one, one of 32 bits, or one at the range's ends
+  std::uint64_t word();                  // any 64 bits
   bool yes() {
     return byte() % 2 != 0;
   }

@@ -25,7 +25,7 @@ bool make_locale(const std::string&, const std::string&, const std::string&) {
 bool make_locale(const std::string& name, const std::string& language,
                  const std::string& encoding) {
   namespace fs = std::filesystem;
-  const fs::path folder = fs::current_path() / "locales";
+  const fs::path folder = fs::path(ZEPH_LOCALES_DIR);
   const fs::path made = folder / name;
   std::error_code error;
   if (!fs::exists(made)) {

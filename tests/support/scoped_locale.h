@@ -1,4 +1,4 @@
-// A locale for the length of a test: an installed one, or one that is made in the working folder.
+// A locale for the length of a test: an installed one, or one that is made in the build folder.
 //
 //     const ScopedLocale locale(LC_NUMERIC, "de_DE", "UTF-8");
 //     if (!locale.in_force()) GTEST_SKIP() << locale.reason();

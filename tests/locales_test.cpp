@@ -1,0 +1,98 @@
+// Folds and decimal points follow the process's locale: the fast path of the "C" locale and the
+// runtime's own service alike. The locales are made for the test where none is installed.
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cstdio>
+#include <string>
+
+#include "number/number_harness.h"
+#include "support/scoped_locale.h"
+#include "support/table.h"
+#include "zeph.h"
+
+using namespace Orbane;
+using namespace zeph_test;
+
+namespace {
+
+template <typename Fold>
+std::string folded(Fold fold, std::string text) {
+  std::string bytes = text + '\0';
+  fold(bytes.data());
+  fold(text);
+  EXPECT_EQ(text, bytes.c_str()) << "byte text and String";
+  return text;
+}
+
+// What all the functions that fold make of 'I' and 0xFD, and of the letters 0xC7 and 0xE7.
+struct Folds {
+  const char* lower;
+  const char* upper;
+  bool dotless_equal, cedilla_equal;
+};
+
+void expect_folds(const Folds& folds) {
+  const std::string text = "I\xDD[\xC7|i\xFD{\xE7", padding(100, '-');
+  const auto lower = [](auto&& each) { Zeph_Lower(each); };
+  const auto upper = [](auto&& each) { Zeph_Upper(each); };
+  EXPECT_EQ(folded(lower, text), folds.lower);
+  EXPECT_EQ(folded(upper, text), folds.upper);
+  EXPECT_EQ(folded(lower, padding + text), padding + folds.lower) << "the wide path";
+  EXPECT_EQ(folded(upper, padding + text), padding + folds.upper);
+  const struct {
+    const char *a, *b;
+    bool equal;
+  } pairs[] = {{"I", "\xFD", folds.dotless_equal},
+               {"\xC7", "\xE7", folds.cedilla_equal},
+               {"[", "{", false},
+               {"A", "a", true}};
+  for (const auto& pair : pairs) {
+    SCOPED_TRACE(pair.a);
+    std::string a = pair.a, b = pair.b;
+    const std::string list = "x," + padding + "," + a, longer = padding + a;
+    EXPECT_EQ(Zeph_Compare_L(pair.a, pair.b), pair.equal);
+    EXPECT_EQ(Zeph_Compare_L(a, b, 9), pair.equal);
+    EXPECT_EQ(Zeph_Find_Position_L(longer.c_str(), pair.b), pair.equal ? 100 : -1);
+    EXPECT_EQ(Zeph_Find_Position_L(longer.c_str(), 0, 100, pair.b), -1);
+    EXPECT_EQ(Zeph_Find_SubString_L(longer.c_str(), pair.b), pair.equal);
+    EXPECT_EQ(Zeph_Seperate_Char_Get_Index_L(list.c_str(), ',', pair.b), pair.equal ? 2 : -1);
+  }
+}
+
+void expect_as_runtime(double value) {
+  char text[400], stack[400], appended[400] = "";
+  std::snprintf(text, sizeof text, "%f", value);
+  expect_written(value, 6, std::string(text).substr(0, 63));
+  Zeph_Copy_Stack(stack, value, sizeof stack);
+  EXPECT_STREQ(stack, text);
+  Zeph_Cat(appended, value);
+  EXPECT_STREQ(appended, text);
+  std::snprintf(text, sizeof text, "%.2e", value);
+  expect_written(value, -2, text);
+  EXPECT_EQ(Zeph_Splicing(64, "%.2e", value), text);
+}
+
+}  // namespace
+
+TEST(Locales, FoldsOfTheCLocale) {
+  expect_folds({"i\xDD[\xC7|i\xFD{\xE7", "I\xDD[\xC7|I\xFD{\xE7", false, false});
+}
+
+TEST(Locales, FoldsOfASingleByteLocale) {
+  const ScopedLocale turkish(LC_CTYPE, "tr_TR", "ISO-8859-9");
+  if (!turkish.in_force()) GTEST_SKIP() << turkish.reason();
+  expect_folds({"\xFDi[\xE7|i\xFD{\xE7", "I\xDD[\xC7|\xDDI{\xC7", true, true});
+}
+
+TEST(Locales, DecimalPoints) {
+  expect_as_runtime(-1234.5678);
+  expect_read("2.5", 1, 2.5, 2.5);
+  const ScopedLocale german(LC_NUMERIC, "de_DE", "UTF-8");
+  if (!german.in_force()) GTEST_SKIP() << german.reason();
+  expect_written(1234.5678, -2, "1,23e+03");
+  expect_as_runtime(-1234.5678);
+  expect_as_runtime(1e300);
+  expect_read("2.5", 1, 2.0, 2.0);  // the test takes a point, and the scan stops at it
+  expect_read("2,5e1", 0, before, 25.0);
+}
