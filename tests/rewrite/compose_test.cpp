@@ -6,6 +6,7 @@
 #include <new>
 #include <string>
 
+#include "rewrite/alarm_harness.h"
 #include "rewrite/rewrite_table.h"
 #include "support/guarded_buffer.h"
 #include "support/table.h"
@@ -22,35 +23,6 @@ std::string cat(const std::string& text, Value value, std::size_t length) {
   room.data()[text.size()] = '\0';
   EXPECT_EQ(Orbane::Zeph_Cat(room.data(), value), room.data());
   return room.data();
-}
-
-// The result of the member for as many texts, in a buffer of `room` bytes.
-std::string join(const std::vector<std::string>& texts, std::size_t room) {
-  GuardedBuffer first(room);
-  texts[0].copy(first.data(), texts[0].size());
-  first.data()[texts[0].size()] = '\0';
-  std::vector<const char*> more;
-  for (std::size_t i = 1; i < texts.size(); ++i) more.push_back(texts[i].c_str());
-  const auto call = [&](auto... indexes) {
-    Orbane::Zeph_Strcat_Alarm_Append_Text(first.data(), more[std::size_t(indexes)]...);
-  };
-  switch (more.size()) {
-    case 1:
-      call(0);
-      break;
-    case 2:
-      call(0, 1);
-      break;
-    case 3:
-      call(0, 1, 2);
-      break;
-    case 4:
-      call(0, 1, 2, 3);
-      break;
-    default:
-      call(0, 1, 2, 3, 4);
-  }
-  return first.data();
 }
 
 }  // namespace
@@ -95,19 +67,9 @@ TEST(Splicing, SizeBoundsTheText) {
 TEST(AlarmText, JoinsHalfByHalf) {
   each_row(alarm_rows, [](const auto& row) {
     const std::size_t size = std::max(row.texts[0].size(), std::string(row.result).size());
-    EXPECT_EQ(join(row.texts, size + 1), row.result);
+    EXPECT_EQ(join_alarms(row.texts, size + 1), row.result);
   });
   char same[16] = "a|b";
   Orbane::Zeph_Strcat_Alarm_Append_Text(same, same, same + 2);
   EXPECT_STREQ(same, "a a b|b b b") << "texts may overlap";
-}
-
-TEST(AlarmText, CutAt511BytesWhateverTheHalves) {
-  for (const std::size_t first : {200U, 254U, 255U, 256U, 509U, 510U, 511U, 512U, 2000U}) {
-    for (const std::size_t second : {0U, 1U, 255U, 256U, 511U, 512U, 2000U}) {
-      const std::string a(first, 'a'), b(second, 'b'), whole = a + " c|" + (second ? b : a) + " d";
-      EXPECT_EQ(join({a + '|' + b, "c|d"}, std::max<std::size_t>(first + second + 2, 512)),
-                whole.substr(0, 511));
-    }
-  }
 }

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <climits>
 #include <string>
 
 #include "rewrite/rewrite_table.h"
@@ -53,16 +52,4 @@ TEST(Enclosure, StringCheckDiffersBetweenItsForms) {
       EXPECT_TRUE(room.untouched());
     }
   });
-}
-
-TEST(Enclosure, LimitIsOnTheBytesBetweenTheQuotes) {
-  const char text[] = "\"abc\"";
-  GuardedBuffer room(4);
-  for (const int limit : {2, 0, -1, INT_MIN}) {
-    EXPECT_FALSE(Orbane::Zeph_String_Check(text, limit, room.data())) << limit;
-  }
-  EXPECT_TRUE(room.untouched());
-  EXPECT_TRUE(Orbane::Zeph_String_Check(text, 3, room.data()));
-  EXPECT_STREQ(room.data(), "abc");
-  EXPECT_TRUE(Orbane::Zeph_String_Check(text, INT_MAX, room.data()));
 }

@@ -1,11 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "rewrite/rewrite_table.h"
 #include "support/guarded_buffer.h"
-#include "support/refusing_heap.h"
-#include "support/stdout_capture.h"
 #include "support/table.h"
 #include "zeph.h"
 
@@ -21,16 +17,4 @@ TEST(MessageName, StreamAndFunction) {
     EXPECT_EQ(function, valid ? row.function : 78);
     EXPECT_EQ(Orbane::Zeph_Check_SxxFxx(text.data(), nullptr, nullptr), valid);
   });
-}
-
-TEST(MessageName, RefusedWorkBufferIsReported) {
-  REQUIRE_REFUSING_HEAP;
-  for (const long refused : {1L, 2L}) {
-    RefusingHeap heap;
-    heap.refuse_calloc(refused);
-    StdoutCapture capture;
-    EXPECT_FALSE(Orbane::Zeph_Check_SxxFxx("S1F13", nullptr, nullptr));
-    EXPECT_EQ(heap.callocs(), refused);
-    EXPECT_EQ(capture.text(), banner("[Zeph] Memory calloc Fail in Zeph_Prepare_Mem"));
-  }
 }

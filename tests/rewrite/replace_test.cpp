@@ -1,61 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <optional>
-#include <random>
 #include <string>
 
 #include "rewrite/rewrite_table.h"
 #include "support/guarded_buffer.h"
-#include "support/refusing_heap.h"
 #include "support/table.h"
 #include "zeph.h"
 
 using namespace zeph_test;
-
-namespace {
-
-// The rule of the restarting forms, one change at a time; nothing if it takes too many.
-struct Rewritten {
-  std::string text;
-  std::size_t longest;
-};
-
-std::optional<Rewritten> rewrite(std::string text, const std::string& pattern,
-                                 const std::string& replacement, std::size_t most) {
-  std::size_t longest = text.size();
-  if (pattern.empty()) return Rewritten{text, longest};
-  for (std::size_t at; (at = text.find(pattern)) != std::string::npos;) {
-    if (most-- == 0) return std::nullopt;
-    text.replace(at, pattern.size(), replacement);
-    longest = std::max(longest, text.size());
-  }
-  return Rewritten{text, longest};
-}
-
-// The byte text form in a room of exactly what the rule needs.
-void expect_rewritten(const std::string& text, const std::string& pattern,
-                      const std::string& replacement) {
-  const auto rewritten = rewrite(text, pattern, replacement, 3000);
-  if (!rewritten) return;  // a pair without an end, or with one far away
-  const Rewritten& expected = *rewritten;
-  GuardedBuffer room(expected.longest + 1);
-  std::copy(text.c_str(), text.c_str() + text.size() + 1, room.data());
-  GuardedText from(pattern), to(replacement);
-  Orbane::Zeph_Replace(room.data(), from.data(), to.data());
-  ASSERT_EQ(room.data(), expected.text) << text << ": " << pattern << " -> " << replacement;
-}
-
-void expect_removed(const std::string& text, const std::string& pattern) {
-  const std::string expected = rewrite(text, pattern, "", text.size()).value().text;
-  std::string string = text;
-  Orbane::Zeph_Remove(string, pattern);
-  ASSERT_EQ(string, expected) << text << ": " << pattern;
-  GuardedText bytes(text);
-  Orbane::Zeph_Remove(bytes.data(), pattern.c_str());
-  ASSERT_EQ(bytes.data(), expected) << text << ": " << pattern;
-}
-
-}  // namespace
 
 TEST(Replace, SingleBytes) {
   char text[] = "a.b.c";
@@ -86,37 +38,6 @@ TEST(Replace, StringsGoOnBehindTheReplacement) {
   EXPECT_EQ(self, "");
 }
 
-TEST(Replace, EveryShortTextAgainstTheRestartRule) {
-  each_text("ab", 3, [](const std::string& pattern) {
-    each_text("ab", 8, [&](const std::string& text) { expect_removed(text, pattern); });
-    each_text("ab", 4, [&](const std::string& replacement) {
-      if (!pattern.empty() && replacement.find(pattern) != std::string::npos) return;
-      each_text("ab", 6,
-                [&](const std::string& text) { expect_rewritten(text, pattern, replacement); });
-    });
-  });
-}
-
-TEST(Replace, LongTextsAgainstTheRestartRule) {
-  std::mt19937 random(17);
-  const auto text_of = [&](std::size_t size) {
-    std::string text;
-    while (text.size() < size) text += "abc"[random() % 3];
-    return text;
-  };
-  for (int i = 0; i < 2000; ++i) {
-    const std::string text = text_of(random() % 200), pattern = text_of(1 + random() % 6);
-    const std::string replacement = text_of(random() % 9);
-    expect_removed(text, pattern);
-    if (replacement.find(pattern) == std::string::npos) {
-      expect_rewritten(text, pattern, replacement);
-    }
-  }
-  const std::string long_pattern = std::string(90, 'a') + 'b', half(45, 'a');
-  expect_rewritten(std::string(300, 'a') + 'b' + half, long_pattern, 'b' + std::string(95, 'c'));
-  expect_removed(std::string(300, 'a') + std::string(5, 'b'), long_pattern);
-}
-
 TEST(Replace, PairsWithoutAnEndLeaveTheText) {
   const std::string text = std::string(40, 'a') + 'b';
   for (const auto& [pattern, replacement] : {std::pair("a", "aa"), std::pair("ab", "ab"),
@@ -145,19 +66,6 @@ TEST(Replace, TextsWithoutAnOccurrenceAreNotWritten) {
   Orbane::Zeph_Replace(text, "a", "aa");
   Orbane::Zeph_Remove(text, "x");
   EXPECT_STREQ(constant, "abcabc");
-}
-
-TEST(Replace, RefusedHeapLeavesTheText) {
-  REQUIRE_REFUSING_HEAP;
-  for (const long refused : {1L, 2L}) {
-    std::string text = "aaaabb";
-    text.reserve(100);
-    RefusingHeap heap;
-    heap.refuse_calloc(refused);
-    Orbane::Zeph_Replace(text.data(), "ab", "bca");
-    EXPECT_STREQ(text.data(), "aaaabb") << refused;
-    EXPECT_EQ(heap.callocs(), refused);
-  }
 }
 
 TEST(Remove, Bytes) {
