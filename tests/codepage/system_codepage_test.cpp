@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "codepage/codepage_data.h"
+#include "codepage/codepage_model.h"
 #include "zeph.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // Code page 936 as the data file tells it, and both conversions as one would explain them: slow,
 // without the library's tables, the measure of what the library gives.
-#ifndef ZEPH_TESTS_CODEPAGE_CODEPAGE_DATA_H
-#define ZEPH_TESTS_CODEPAGE_CODEPAGE_DATA_H
+#ifndef ZEPH_TESTS_CODEPAGE_CODEPAGE_MODEL_H
+#define ZEPH_TESTS_CODEPAGE_CODEPAGE_MODEL_H
 
 #include <map>
 #include <string>
@@ -18,9 +18,9 @@ const CodePage& code_page();
 // The bytes of one unit, also of half of a surrogate pair, for which there is no valid UTF-8.
 std::string utf8(unsigned unit);
 
-std::string expected_ansi(const std::string& utf8_text);
-std::string expected_utf8(const std::string& ansi_text);
+// Holds both conversions of a text, by all forms, against the rule.
+void expect_conversions(const std::string& text);
 
 }  // namespace zeph_test
 
-#endif  // ZEPH_TESTS_CODEPAGE_CODEPAGE_DATA_H
+#endif  // ZEPH_TESTS_CODEPAGE_CODEPAGE_MODEL_H

@@ -1,8 +1,14 @@
-#include "codepage/codepage_data.h"
+#include "codepage/codepage_model.h"
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstddef>
 #include <fstream>
+#include <unordered_map>
+
+#include "support/guarded_buffer.h"
+#include "zeph.h"
 
 namespace zeph_test {
 namespace {
@@ -61,9 +67,11 @@ std::string utf8(unsigned unit) {
   return {static_cast<char>(0xE0 | unit >> 12), tail(6), tail(0)};
 }
 
+namespace {
+
 std::string expected_ansi(const std::string& text) {
-  static const std::map<std::string, std::string> bytes_of = [] {
-    std::map<std::string, std::string> map;
+  static const std::unordered_map<std::string, std::string> bytes_of = [] {
+    std::unordered_map<std::string, std::string> map;
     for (const auto& [unit, bytes] : code_page().bytes_of) map[utf8(unit)] = bytes;
     return map;
   }();
@@ -91,6 +99,20 @@ std::string expected_utf8(const std::string& text) {
     result += found != unit_of.end() ? utf8(found->second) : "?";
   }
   return result;
+}
+
+}  // namespace
+
+void expect_conversions(const std::string& text) {
+  SCOPED_TRACE(testing::PrintToString(text));
+  const std::string ansi = expected_ansi(text), utf8 = expected_utf8(text);
+  const GuardedText bytes(text);
+  std::string string = text + '\0' + "\xE6", source = string;
+  ASSERT_EQ(Orbane::Zeph_UTF8_to_ANSI(bytes.data()), ansi);
+  ASSERT_EQ(Orbane::Zeph_ANSI_to_UTF8(bytes.data()), utf8);
+  ASSERT_EQ(Orbane::Zeph_UTF8_to_ANSI(string), ansi);
+  ASSERT_EQ(Orbane::Zeph_ANSI_to_UTF8(string), utf8);
+  ASSERT_EQ(string, source) << "unchanged";
 }
 
 }  // namespace zeph_test
