@@ -23,7 +23,7 @@ constexpr char ascii_fold(LetterCase to, char byte) {
 // are not allowed.
 void put_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size);
 
-// The twins, each with the same promise; the wide ones where the build has them.
+// The twins, with the same promise; that of AVX2 where the build has it, for at least 64 bytes.
 void put_ascii_fold_portable(LetterCase to, char* out, const char* from, std::size_t size);
 void put_ascii_fold_avx2(LetterCase to, char* out, const char* from, std::size_t size);
 

@@ -27,7 +27,6 @@ struct Fold32 {
 
 }  // namespace
 
-// `size` is at least 64.
 __attribute__((target("avx2"))) void put_ascii_fold_avx2(LetterCase to, char* out, const char* from,
                                                          std::size_t size) {
   const Fold32 fold(first_folded(to));

@@ -116,6 +116,25 @@ std::size_t find_needle(View haystack, View needle) {
   return find_filtered(haystack, needle, at + 1, ExactFold());
 }
 
+std::size_t find_last_needle(View haystack, View needle) {
+  if (needle.empty()) return haystack.size();
+  if (needle.size() > haystack.size()) return View::npos;
+  const std::size_t last = haystack.size() - needle.size();
+  Budget budget;
+  for (std::size_t at = haystack.rfind(needle[0], last); at != View::npos;
+       at = haystack.rfind(needle[0], at - 1)) {
+    const std::size_t same =
+        common_front(haystack.data() + at, needle.data(), needle.size(), ExactFold());
+    if (same == needle.size()) return at;
+    if (at == 0) break;
+    if (!budget.spent_by(same, last - at)) continue;
+    const View rest = haystack.substr(0, at + needle.size() - 1);
+    const std::size_t found = find_two_way(Backwards{rest}, Backwards{needle}, ExactFold());
+    return found == View::npos ? found : rest.size() - needle.size() - found;
+  }
+  return View::npos;
+}
+
 std::size_t find_needle_ignoring_case(View haystack, View needle) {
   if (needle.empty()) return 0;
   if (needle.size() > haystack.size()) return View::npos;

@@ -20,6 +20,9 @@ namespace zeph {
 // Equal byte for byte.
 std::size_t find_needle(std::string_view haystack, std::string_view needle);
 
+// The last place instead of the first; the empty needle stands at the end.
+std::size_t find_last_needle(std::string_view haystack, std::string_view needle);
+
 // The letters of the ASCII alphabet are equal in both cases.
 std::size_t find_needle_ignoring_case(std::string_view haystack, std::string_view needle);
 

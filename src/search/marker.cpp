@@ -18,7 +18,7 @@ View left_of(View text, View marker) {
 }
 
 View right_of(View text, View marker) {
-  const std::size_t at = text.rfind(marker);
+  const std::size_t at = find_last_needle(text, marker);
   return at == View::npos ? text : text.substr(at + marker.size());
 }
 
