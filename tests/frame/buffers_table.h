@@ -9,17 +9,6 @@
 
 namespace zeph_test {
 
-const struct {
-  const char* why;
-  const char* held;
-  const char* source;
-  const char* message;
-} refused_copies[] = {
-    {"text", nullptr, "a%d", "[Zeph] Memory calloc Fail in STR_MEM_MAKE_COPY <= [a%d]"},
-    {"NULL", nullptr, nullptr, "[Zeph] Memory calloc Fail in STR_MEM_MAKE_COPY <= NULL"},
-    {"the old block is gone", "a", "ab", "[Zeph] Memory calloc Fail in STR_MEM_MAKE_COPY <= [ab]"},
-};
-
 const char bad_pointer[] = "[Zeph] Invalid pointer in Zeph_Copy_Mem";
 const char bad_start[] = "[Zeph] StartIndex out of bounds in Zeph_Copy_Mem";
 const char too_far[] = "[Zeph] Copy operation would exceed SourceString bounds in Zeph_Copy_Mem";

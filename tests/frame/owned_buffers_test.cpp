@@ -63,22 +63,6 @@ TEST(CopyMem, DecidesByTheHeldText) {
   EXPECT_STREQ(fresh.block, "");
 }
 
-TEST(CopyMem, RefusedBlockIsReported) {
-  REQUIRE_REFUSING_HEAP;
-  each_row(refused_copies, [](const auto& row) {
-    Owned owned;
-    if (row.held) Orbane::Zeph_Copy_Mem(&owned.block, row.held);
-    RefusingHeap heap;
-    heap.refuse_calloc(1);
-    StdoutCapture capture;
-    errno = 5;
-    EXPECT_FALSE(Orbane::Zeph_Copy_Mem(&owned.block, row.source));
-    EXPECT_EQ(errno, 5);
-    EXPECT_EQ(owned.block, nullptr);
-    EXPECT_EQ(capture.text(), banner(row.message));
-  });
-}
-
 TEST(Overlay, WritesInsideTheTextOnly) {
   each_row(overlays, [](const auto& row) {
     GuardedText target(row.target ? row.target : "");
@@ -98,15 +82,6 @@ TEST(Overlay, WritesInsideTheTextOnly) {
   EXPECT_STREQ(line, "aXYd");
 }
 
-TEST(Overlay, CopiesInRisingOrder) {
-  char up[] = "abcdef";
-  EXPECT_TRUE(Orbane::Zeph_Copy_Mem(up, 1, up, 4));
-  EXPECT_STREQ(up, "aaaaaf");
-  char down[] = "abcdef";
-  EXPECT_TRUE(Orbane::Zeph_Copy_Mem(down, 0, down + 1, 4));
-  EXPECT_STREQ(down, "bcdeef");
-}
-
 TEST(PrepareMem, DecidesByTheCapacity) {
   Owned owned;
   ASSERT_TRUE(Orbane::Zeph_Prepare_Mem(&owned.block, 100));
@@ -122,7 +97,7 @@ TEST(PrepareMem, DecidesByTheCapacity) {
   EXPECT_EQ(std::string(owned.block, 5000), std::string(5000, '\0'));
 }
 
-TEST(PrepareMem, RefusalsAreReported) {
+TEST(PrepareMem, ARefusalEndsTheOldBlock) {
   for (const int size : {-1, INT_MIN}) {
     char* block = nullptr;
     StdoutCapture capture;

@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <map>
-#include <mutex>
 #include <new>
 #include <vector>
 
@@ -50,12 +49,11 @@ bool open_pages(char* start, std::size_t size) {
 constexpr std::ptrdiff_t watched = 64;
 
 // Open pages between inaccessible ones are kept for the next room of their size: mapping them anew
-// would take most of a test's time.
-std::mutex pool_lock;
-std::map<std::size_t, std::vector<char*>> pool;
+// would take most of a test's time. Each thread keeps its own, so that rooms order nothing between
+// threads.
+thread_local std::map<std::size_t, std::vector<char*>> pool;
 
 char* take_pages(std::size_t open) {
-  const std::lock_guard<std::mutex> lock(pool_lock);
   std::vector<char*>& ready = pool[open];
   if (!ready.empty()) {
     char* const start = ready.back();
@@ -66,11 +64,6 @@ char* take_pages(std::size_t open) {
   void* const pages = map_inaccessible(open + 2 * page);
   if (!pages || !open_pages(static_cast<char*>(pages) + page, open)) throw std::bad_alloc();
   return static_cast<char*>(pages) + page;
-}
-
-void give_back(char* start, std::size_t open) {
-  const std::lock_guard<std::mutex> lock(pool_lock);
-  pool[open].push_back(start);
 }
 
 bool holds_pattern(const char* from, const char* to) {
@@ -107,7 +100,7 @@ GuardedBuffer::~GuardedBuffer() {
     std::fputs("a byte beside the caller's room was written\n", stderr);
     std::abort();
   }
-  give_back(start_, static_cast<std::size_t>(end_ - start_));
+  pool[static_cast<std::size_t>(end_ - start_)].push_back(start_);
 }
 
 char* GuardedBuffer::watched_from() const {
@@ -126,14 +119,6 @@ GuardedText::GuardedText(std::string_view text, End end, Placement placement)
     : GuardedBuffer(text.size() + (end == End::terminated ? 1 : 0), placement) {
   if (!text.empty()) std::memcpy(data(), text.data(), text.size());
   if (end == End::terminated) data()[text.size()] = '\0';
-}
-
-const char* at_edge(std::string_view text, End end) {
-  static const GuardedBuffer room(1 << 18);
-  char* const start = room.data() + room.size() - text.size() - (end == End::terminated ? 1 : 0);
-  std::memcpy(start, text.data(), text.size());
-  if (end == End::terminated) start[text.size()] = '\0';
-  return start;
 }
 
 }  // namespace zeph_test

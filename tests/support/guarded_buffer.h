@@ -4,7 +4,6 @@
 //     GuardedBuffer in(9, Edge::front);    // in.data()[-1] faults: the room starts at the page
 //     GuardedText text("abc");             // a byte text whose terminator is the last byte
 //     GuardedText bare("abc", End::bare);  // the same without a terminator
-//     at_edge("abc");                      // as GuardedText, until the next call
 //     const ScopedPlacement moved({Edge::front, 3});  // all rooms from here on start at byte 3
 //
 // The room is filled with a pattern, so that bytes that must stay untouched can be checked:
@@ -74,8 +73,6 @@ class GuardedText : public GuardedBuffer {
   explicit GuardedText(std::string_view text, End end = End::terminated,
                        Placement placement = ScopedPlacement::current());
 };
-
-const char* at_edge(std::string_view text, End end = End::terminated);
 
 }  // namespace zeph_test
 

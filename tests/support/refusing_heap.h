@@ -25,6 +25,7 @@ class RefusingHeap {
 
   void refuse_calloc(long first, long count = 1);
   void refuse_new(long first, long count = 1);
+  static void refuse_no_more();  // the counts stay
   long callocs() const;
   std::size_t last_calloc() const;  // the bytes of the newest request
   long news() const;

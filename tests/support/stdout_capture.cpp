@@ -10,7 +10,13 @@
 
 namespace zeph_test {
 
-StdoutCapture::StdoutCapture() : original_(dup(1)), file_(std::tmpfile()) {
+namespace {
+
+std::mutex capturing;
+
+}  // namespace
+
+StdoutCapture::StdoutCapture() : alone_(capturing), original_(dup(1)), file_(std::tmpfile()) {
   if (original_ < 0 || !file_) throw std::runtime_error("standard output cannot be captured");
   std::fflush(stdout);
   dup2(fileno(file_), 1);

@@ -7,6 +7,7 @@
 #define ZEPH_TESTS_SUPPORT_STDOUT_CAPTURE_H
 
 #include <cstdio>
+#include <mutex>
 #include <string>
 
 namespace zeph_test {
@@ -21,6 +22,7 @@ class StdoutCapture {
   std::string text();  // all that was printed since the start
 
  private:
+  std::lock_guard<std::mutex> alone_;  // standard output is one for all threads
   int original_;
   std::FILE* file_;
 };
