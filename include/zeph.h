@@ -144,7 +144,8 @@ ZEPH_API bool Zeph_Copy_Stack(char* target, double value, int size);
 /// in Zeph_Prepare_Mem" and returns false with `*buffer` NULL. A block that the heap itself does
 /// not know, where the platform can tell, is reported as "[Zeph] Invalid pointer in
 /// Zeph_Prepare_Mem", with false, and `*buffer` stays as it was. For `size` 0 on NULL the heap's
-/// own answer counts; the usual ones make a block and true.
+/// own answer counts; the usual ones make a block and true. That block has room for no byte, not
+/// even for the terminator of an empty text: nothing may read it as a text.
 ZEPH_API bool Zeph_Prepare_Mem(char** buffer, int size);
 
 /// Frees the block of the owned buffer `*buffer` and sets it to NULL. NULL is left alone, so that a

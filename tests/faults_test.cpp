@@ -41,7 +41,8 @@ TEST(Faults, RefusedWorkBuffers) {
       for (const long count : {1L, fault.work_buffers - first + 1}) {
         StdoutCapture capture;
         EXPECT_EQ(outcome(fault, &RefusingHeap::refuse_calloc, first, count), fault.refused);
-        EXPECT_EQ(capture.text(), fault.report ? banners(fault.stops ? 1 : count, fault.report) : "");
+        EXPECT_EQ(capture.text(),
+                  fault.report ? banners(fault.stops ? 1 : count, fault.report) : "");
       }
     }
     EXPECT_EQ(fault.call(), result);

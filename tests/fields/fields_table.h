@@ -82,6 +82,22 @@ const struct {
 
 const struct {
   const char* why;
+  bool at_blanks;  // at commas otherwise
+  const char* text;
+  Fields fields;
+} reverse_rows[] = {
+    {"two", true, "red green blue", {"blue", "red green"}},
+    {"too few", true, "red green", {"green", "red", "", ""}},
+    {"blanks at the end", true, "red green  ", {"", "green", "red"}},
+    {"blanks at the start stay", true, "  red green", {"green", "  red"}},
+    {"five", true, "a b c d e f g", {"g", "f", "e", "d", "a b c"}},
+    {"an empty field is left", false, "red,,green", {"green", "red,"}},
+    {"an empty field is cut", false, "red,,green", {"green", "", "red"}},
+    {"delimiters alone", false, ",,", {"", "", ""}},
+};
+
+const struct {
+  const char* why;
   const char* text;
   char separator;
   int index, limit;

@@ -5,9 +5,27 @@
 #include <cerrno>
 #include <string>
 
+#include "frame/diagnostics.h"
 #include "support/guarded_buffer.h"
+#include "support/stdout_capture.h"
 
-using zeph_test::GuardedBuffer;
+using namespace zeph_test;
+
+TEST(Diagnostics, PrintAddsNothing) {
+  StdoutCapture capture;
+  errno = 77;
+  zeph::Diag_Print("%s=%d", "x", 5);
+  EXPECT_EQ(errno, 77);
+  EXPECT_EQ(capture.text(), "x=5");
+}
+
+TEST(Diagnostics, BannerIsOneUnbrokenRun) {
+  const std::string rule = "------------------------------------------------";
+  StdoutCapture capture;
+  zeph::Diag_Banner("100%%");
+  zeph::Diag_Banner("[%s]", "a\nb");
+  EXPECT_EQ(capture.text(), rule + "100%" + rule + rule + "[a\nb]" + rule);
+}
 
 TEST(FormattedText, BoundedCutsWithoutNotice) {
   GuardedBuffer buffer(16);

@@ -5,17 +5,12 @@
 #include <cstdint>
 #include <random>
 
-#include "number/number_harness.h"
 #include "number/real_format_table.h"
 #include "number/wide_product.h"
 #include "support/guarded_buffer.h"
 #include "support/table.h"
 
 using namespace zeph_test;
-
-TEST(RealFormat, PrecisionCodes) {
-  each_row(precision_rows, [](const auto& row) { expect_written(row.value, row.code, row.text); });
-}
 
 TEST(RealFormat, ExponentTrim) {
   each_row(exponent_rows, [](const auto& row) {

@@ -66,6 +66,12 @@ TEST(Posix, LocalTimeFollowsSummerTimeWithinTheProcess) {
   expect_offset(3600);
 }
 
+TEST(Posix, CapacityCoversTheRequest) {
+  void* const block = std::malloc(100);
+  EXPECT_GE(zeph::block_capacity(block), 100U);
+  std::free(block);
+}
+
 TEST(Posix, ErrnoBecomesTheWindowsCode) {
   for (const auto& row : error_codes) {
     errno = row.value;

@@ -1,14 +1,43 @@
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <string>
 
-#include "support/guarded_buffer.h"
-#include "zeph.h"
+#include "search/search_harness.h"
+#include "search/slices_table.h"
+#include "support/table.h"
 
 using namespace zeph_test;
 
+TEST(Search, SlicesAndMarkers) {
+  each_row(slices, [](const auto& row) {
+    expect_slice(row.text, row.start, row.count, row.bytes, row.string, row.loose);
+  });
+  each_row(delimited,
+           [](const auto& row) { expect_between(row.text, row.open, row.close, row.between); });
+  each_row(markers,
+           [](const auto& row) { expect_around(row.text, row.marker, row.left, row.right); });
+  each_row(paths, [](const auto& row) { expect_name(row.path, row.size, row.name); });
+}
+
+TEST(Search, UncheckedSliceTakesWhatItIsTold) {
+  const GuardedText text(std::string("ab\0def", 6), End::bare);
+  const GuardedBuffer out(5);
+  Orbane::Zeph_Ext_Str_From_Str(text.data(), 2, 4, out.data());
+  EXPECT_EQ(std::string(out.data(), 5), std::string("\0def\0", 5));
+  for (const int bad : {-1, INT_MIN}) {
+    Orbane::Zeph_Ext_Str_From_Str(text.data(), bad, 2, out.data());
+    Orbane::Zeph_Ext_Str_From_Str(text.data(), 0, bad, out.data() + 1);
+    EXPECT_EQ(std::string(out.data(), 4), std::string("\0\0ef", 4)) << bad;
+  }
+  char piece[4];
+  const GuardedText bare("hello", End::bare);
+  EXPECT_TRUE(Orbane::Zeph_Get_SubString(bare.data(), 2, 3, piece)) << "reads what it takes";
+  EXPECT_STREQ(piece, "llo");
+}
+
 // A long text is searched a piece at a time: matches at, before and across the ends of pieces.
-TEST(Position, PiecesOfLongTexts) {
+TEST(Search, PiecesOfLongTexts) {
   const auto expect_position = [](const std::string& text, const std::string& pattern) {
     const GuardedText in(text), wanted(pattern);
     const auto expected = static_cast<int>(text.find(pattern));
@@ -29,7 +58,7 @@ TEST(Position, PiecesOfLongTexts) {
   }
 }
 
-TEST(Position, Rows) {
+TEST(Search, Positions) {
   EXPECT_EQ(Orbane::Zeph_Find_Position("hello", "lo"), 3);
   EXPECT_EQ(Orbane::Zeph_Find_Position("hello", 0, 4, "lo"), -1) << "the match needs index 4";
   EXPECT_EQ(Orbane::Zeph_Find_Position("hello", -7, 5, "h"), 0) << "a negative start is 0";

@@ -1,0 +1,169 @@
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <cfloat>
+#include <climits>
+#include <cwchar>
+#include <new>
+#include <string>
+#include <utility>
+
+#include "rewrite/alarm_harness.h"
+#include "rewrite/rewrite_table.h"
+#include "support/guarded_buffer.h"
+#include "support/table.h"
+#include "zeph.h"
+
+using namespace Orbane;
+using namespace zeph_test;
+
+TEST(Replace, SingleBytesAndZeroBytes) {
+  char text[] = "a.b.c";
+  Zeph_Replace(text, '\0', 'x');
+  EXPECT_STREQ(text, "a.b.c") << "the terminator is no byte of the text";
+  EXPECT_EQ(Zeph_Replace(text, '.', '\0'), text);
+  EXPECT_EQ(std::string(text, 5), std::string("a\0b\0c", 5)) << "the pass goes on";
+  std::string zero("a\0b\0", 4), self = "ab", kept("a\0xb\0", 5);
+  Zeph_Remove(kept, '\0');
+  EXPECT_EQ(kept, std::string("a\0xb\0", 5)) << "zero bytes stay";
+  Zeph_Replace(zero, std::string("\0", 1), std::string("\0\0", 2));
+  EXPECT_EQ(zero, std::string("a\0\0b\0\0", 6));
+  Zeph_Replace(self, self, std::string("x"));
+  EXPECT_EQ(self, "x");
+  Zeph_Replace(self, std::string("x"), self);
+  Zeph_Remove(self, self);
+  EXPECT_EQ(self, "");
+}
+
+TEST(Replace, StringsGoOnBehindTheReplacement) {
+  each_row(onward_rows, [](const auto& row) {
+    std::string text = row.text;
+    Zeph_Replace(text, std::string(row.pattern), std::string(row.replacement));
+    EXPECT_EQ(text, row.result);
+  });
+}
+
+TEST(Replace, PairsWithoutAnEndLeaveTheText) {
+  const std::string text = std::string(40, 'a') + 'b';
+  for (const auto& [pattern, replacement] : {std::pair("a", "aa"), std::pair("ab", "ab"),
+                                             std::pair("ab", "bbaa"), std::pair("ab", "bba")}) {
+    const GuardedText room(text);
+    Zeph_Replace(room.data(), pattern, replacement);
+    EXPECT_EQ(room.data(), text) << pattern << " -> " << replacement;
+  }
+  const std::string half(1500, 'a'), other(1500, 'b');
+  const GuardedText sorted(half + other);
+  Zeph_Replace(sorted.data(), "ab", "ba");
+  EXPECT_EQ(sorted.data(), other + half) << "many changes, but an end";
+  const GuardedBuffer grown(2048 + 11 + 1);
+  std::string(11, 'a').append("b").copy(grown.data(), 12);
+  grown.data()[12] = '\0';
+  Zeph_Replace(grown.data(), "ab", "bba");
+  EXPECT_EQ(grown.data(), std::string(2048, 'b') + std::string(11, 'a'));
+}
+
+TEST(Replace, TextsWithoutAnOccurrenceAreNotWritten) {
+  static const char constant[] = "abcabc";  // a write faults
+  char* const text = const_cast<char*>(constant);
+  Zeph_Replace(text, 'x', 'y');
+  Zeph_Replace(text, "x", "yy");
+  Zeph_Replace(text, "xx", "y");
+  Zeph_Replace(text, "a", "aa");
+  Zeph_Remove(text, "x");
+  EXPECT_STREQ(constant, "abcabc");
+}
+
+TEST(Enclosure, EachEndByItself) {
+  each_row(enclosed, [](const auto& row) {
+    std::string quotes = row.text, brackets = row.text, mark = row.text;
+    Zeph_Remove_QuoteMark(quotes);
+    Zeph_Remove_Bracket(brackets);
+    Zeph_Remove_HeadTail(mark, 'x');
+    EXPECT_EQ(quotes, row.quotes);
+    EXPECT_EQ(brackets, row.brackets);
+    EXPECT_EQ(mark, row.mark);
+  });
+  each_row(quoted, [](const auto& row) {
+    const GuardedText bytes(row.text);
+    std::string string = row.text, out = "former";
+    Zeph_String_Check(bytes.data());
+    Zeph_String_Check(string);
+    EXPECT_STREQ(bytes.data(), row.bytes);
+    EXPECT_EQ(string, row.string);
+    EXPECT_EQ(Zeph_String_Check(std::string(row.text), out), row.both);
+    EXPECT_EQ(out, row.string);
+  });
+  std::string zero("x\0x", 3);
+  Zeph_Remove_HeadTail(zero, 'x');
+  EXPECT_EQ(zero, std::string("\0", 1)) << "by the stored size";
+  char line[] = "(ab)";
+  Zeph_Remove_Bracket(line);
+  EXPECT_EQ(std::string(line, 5), std::string("ab\0\0\0", 5)) << "the tail is zero first";
+}
+
+TEST(Cat, NumbersTakeTheBytesThatAreNamed) {
+  char line[400] = "n";
+  EXPECT_STREQ(Zeph_Cat(line, INT_MIN), "n-2147483648");
+  line[0] = '\0';
+  EXPECT_STREQ(Zeph_Cat(line, 16777216.0F), "16777216.000000");
+  line[0] = '\0';
+  EXPECT_EQ(std::string(Zeph_Cat(line, -FLT_MAX)).size(), 47U);
+  line[0] = '\0';
+  EXPECT_EQ(std::string(Zeph_Cat(line, -DBL_MAX)).size(), 317U);
+}
+
+TEST(Splicing, SizeBoundsTheText) {
+  errno = 9;
+  const std::string longer(600, 'x');
+  EXPECT_EQ(Zeph_Splicing(4, "%s", "abcdef"), "abc");
+  EXPECT_EQ(Zeph_Splicing(9, "a%cb", 0), "a") << "up to the first zero byte";
+  for (const int size : {511, 512, 513, 600, 601, 5000, INT_MAX}) {
+    EXPECT_EQ(Zeph_Splicing(size, "%s", longer.c_str()),
+              longer.substr(0, static_cast<std::size_t>(size) - 1))
+        << size;
+  }
+  EXPECT_EQ(Zeph_Splicing(900, "%s%c%s", longer.c_str(), 0, "y"), longer);
+  EXPECT_EQ(Zeph_Splicing(1000, "%s%ls", longer.c_str(), L"\x4E2D").substr(0, 600), longer)
+      << "a print that fails leaves what it has";
+  EXPECT_EQ(errno, 9);
+  EXPECT_THROW(Zeph_Splicing(INT_MIN, "%d", 5), std::bad_alloc);
+}
+
+TEST(AlarmText, JoinsHalfByHalf) {
+  each_row(alarm_rows, [](const auto& row) {
+    const std::size_t size = std::max(row.texts[0].size(), std::string(row.result).size());
+    EXPECT_EQ(join_alarms(row.texts, size + 1), row.result);
+  });
+  char same[16] = "a|b";
+  Zeph_Strcat_Alarm_Append_Text(same, same, same + 2);
+  EXPECT_STREQ(same, "a a b|b b b") << "texts may overlap";
+  for (const std::size_t size : {254U, 255U, 256U, 509U, 510U, 511U, 512U, 2000U}) {
+    const std::string a(size, 'a'), whole = a + " c|b d";
+    EXPECT_EQ(join_alarms({a + "|b", "c|d"}, std::max<std::size_t>(size + 3, 512)),
+              whole.substr(0, 511));
+  }
+}
+
+TEST(HexDump, BothStyles) {
+  char* block = nullptr;
+  EXPECT_EQ(Zeph_To_Ascii("\xE4\x05"), "e4 5");
+  EXPECT_STREQ(Zeph_To_Ascii("\xE4\x05", &block), "E4 05");
+  block[6] = 'x';
+  Zeph_To_Ascii("A", &block);
+  EXPECT_EQ(std::string(block, 7), std::string("41\0\0"
+                                               "5\0x",
+                                               7))
+      << "3 * 1 + 1 bytes are written";
+  EXPECT_STREQ(Zeph_To_Ascii("\0A", 2, &block), "00 41") << "a count is no text";
+  Zeph_Release_Mem(&block);
+}
+
+TEST(MessageName, StreamAndFunction) {
+  each_row(message_names, [](const auto& row) {
+    const bool valid = row.stream >= 0;
+    unsigned char stream = 77, function = 78;
+    EXPECT_EQ(Zeph_Check_SxxFxx(row.text, &stream, &function), valid);
+    EXPECT_EQ(stream, valid ? row.stream : 77);
+    EXPECT_EQ(function, valid ? row.function : 78);
+  });
+}
