@@ -6,7 +6,8 @@
 #ifndef ZEPH_TESTS_SUPPORT_STDOUT_CAPTURE_H
 #define ZEPH_TESTS_SUPPORT_STDOUT_CAPTURE_H
 
-#include <cstdio>
+#include <gtest/gtest.h>
+
 #include <mutex>
 #include <string>
 
@@ -14,24 +15,41 @@ namespace zeph_test {
 
 class StdoutCapture {
  public:
-  StdoutCapture();
-  ~StdoutCapture();  // standard output is what it was before
+  StdoutCapture() : alone_(capturing()) {
+    testing::internal::CaptureStdout();
+  }
+  ~StdoutCapture() {
+    if (!ended_) testing::internal::GetCapturedStdout();
+  }
   StdoutCapture(const StdoutCapture&) = delete;
   StdoutCapture& operator=(const StdoutCapture&) = delete;
 
-  std::string text();  // all that was printed since the start
+  // All that was printed since the start; ends the capture.
+  std::string text() {
+    ended_ = true;
+    return testing::internal::GetCapturedStdout();
+  }
 
  private:
-  std::lock_guard<std::mutex> alone_;  // standard output is one for all threads
-  int original_;
-  std::FILE* file_;
+  static std::mutex& capturing() {  // standard output is one for all threads
+    static std::mutex mutex;
+    return mutex;
+  }
+  std::lock_guard<std::mutex> alone_;
+  bool ended_ = false;
 };
 
-// A report as the library prints it.
-std::string banner(const std::string& message);
+// A report as the library prints it, `count` times in a row.
+inline std::string banners(long count, const std::string& message) {
+  const std::string rule(48, '-');
+  std::string all;
+  for (long i = 0; i < count; ++i) all += rule + message + rule;
+  return all;
+}
 
-// `count` reports in a row.
-std::string banners(long count, const std::string& message);
+inline std::string banner(const std::string& message) {
+  return banners(1, message);
+}
 
 }  // namespace zeph_test
 

@@ -22,22 +22,6 @@ void each_row(const Row (&rows)[count], Check check) {
   }
 }
 
-// Calls `check` with every text of at most `longest` bytes over the alphabet, the empty one first.
-template <typename Check>
-void each_text(const std::string& alphabet, std::size_t longest, Check check) {
-  std::string text;
-  const auto extend = [&](const auto& self) -> void {
-    check(text);
-    if (text.size() == longest) return;
-    for (const char byte : alphabet) {
-      text.push_back(byte);
-      self(self);
-      text.pop_back();
-    }
-  };
-  extend(extend);
-}
-
 }  // namespace zeph_test
 
 #endif  // ZEPH_TESTS_SUPPORT_TABLE_H
