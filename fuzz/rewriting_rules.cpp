@@ -15,7 +15,8 @@ namespace zeph_test {
 namespace {
 
 std::string rewritten_text(Draw& draw) {
-  return draw.text(200, draw.yes() ? "ab" : "abc");
+  const char* const alphabets[] = {"ab", "ab", "abc", "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaab"};
+  return draw.text(200, alphabets[draw.below(4)]);
 }
 
 // A pass over the bytes, to the first zero byte in a byte text and to the end in a String.
@@ -76,8 +77,10 @@ std::optional<Rewritten> rewrite(std::string text, const std::string& pattern,
 void pieces_again(Draw& draw) {
   const std::string text = rewritten_text(draw);
   std::string pattern = draw.piece(4, "ab"), replacement = draw.piece(9, "abc");
-  if (draw.below(16) == 0) pattern = std::string(70 + draw.below(30), 'a') + "b";
-  if (draw.below(16) == 0) replacement = "b" + std::string(draw.below(120), 'c');
+  if (draw.below(8) == 0) {
+    pattern = std::string(60 + draw.below(20), 'a') + "b";
+    if (draw.yes()) replacement = "b" + std::string(draw.below(120), 'c');
+  }
   auto expected = rewrite(text, pattern, replacement, 300);
   if (!pattern.empty() && replacement.find(pattern) != std::string::npos) {
     expected = Rewritten{text, text.size()};

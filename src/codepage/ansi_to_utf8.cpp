@@ -22,7 +22,7 @@ char* put_unit(char* to, unsigned unit) {
     *to++ = static_cast<char>(0xC0 | unit >> 6);
     *to++ = static_cast<char>(0x80 | (unit & 0x3F));
   } else {
-    *to++ = unit != 0 ? static_cast<char>(unit) : substitute;
+    *to++ = substitute;  // ASCII never comes here, so that the unit is 0: there is none
   }
   return to;
 }

@@ -87,6 +87,10 @@ TEST_P(AesPath, GivesThePublishedAnswers) {
     for (std::size_t i = 0; i < 16; ++i) EXPECT_EQ(g_aes.state[i % 4 * 4 + i / 4], block[i]);
     GetParam().decrypt(block.data(), block.data(), 1);
     EXPECT_EQ(block, plain);
+    zeph::EncryptBlock(plain.data(), block.data());
+    EXPECT_EQ(block, cipher);
+    zeph::DecryptBlock(cipher.data(), block.data());
+    EXPECT_EQ(block, plain);
   });
 }
 

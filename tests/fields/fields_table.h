@@ -119,6 +119,7 @@ const struct {
     {"delimiters behind the last", ",,red,,green,", ',', 2, 16, ""},
     {"zero is never found", "a b", '\0', 0, 16, "a b"},
     {"and there is no second word", "a b", '\0', 1, 16, ""},
+    {"nor a first one in the empty text", "", '\0', 0, 16, ""},
 };
 
 const struct {

@@ -83,6 +83,9 @@ TEST(Fields, Lists) {
   Zeph_Join(own, '\0', own[1]);
   EXPECT_EQ(own[1], std::string("a\0\0c", 4)) << "an output that is an item joins as empty";
   list.shrink_to_fit();
+  static const std::string in_front = "f";  // of the heap, as an address
+  Zeph_Split(in_front, ',', own);
+  EXPECT_EQ(own.back(), "f");
   Zeph_Split(list[1], ',', list);
   EXPECT_EQ(list, (Fields{"x", "a,b,,c,d,e", "a", "b", "c", "d", "e"})) << "an item of the list";
   REQUIRE_REFUSING_HEAP;

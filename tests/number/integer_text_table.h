@@ -13,7 +13,7 @@ const char* const integer_texts[] = {
     "\xB2",       "5\x80"};
 
 const char* const lenient_texts[] = {"2147483647", "-2147483647", "\v\f\r\n12",          "0x1F",
-                                     "007",        "1234567890",  "99999999999999999999"};
+                                     "007",        "1234567890",  "99999999999999999999", "2147483648", "9999999999"};
 
 const char* const hex_texts[] = {"FFFFFFFF", "1FFFFFFFF", "12 34 56 78 9A",
                                  "-1",       "@G`g/:",    "\xC1\xE6g1"};

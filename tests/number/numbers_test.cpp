@@ -42,6 +42,18 @@ TEST(Numbers, LenientLimits) {
                         "[ZEPH_API] Ext_Dbl_From_Str Size Error");
 }
 
+TEST(Numbers, NegativeCountsAreRefusedWorkBuffers) {
+  for (const int count : {-1, INT_MIN}) {
+    StdoutCapture capture;
+    int value = 7;
+    double real = 7;
+    EXPECT_FALSE(Zeph_To_Int("12", &value, 0, count));
+    EXPECT_FALSE(Zeph_To_Double("12", &real, 0, count));
+    EXPECT_EQ(value + real, 14);
+    EXPECT_EQ(capture.text(), banners(2, "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem"));
+  }
+}
+
 TEST(Numbers, Integers) {
   int value = 0;
   EXPECT_TRUE(Zeph_To_Int("rpm=1200", &value, 4, 4));
