@@ -12,7 +12,7 @@ need_packages libclang-rt-19-dev libgtest-dev locales
 
 # measure PRESET: build/PRESET/coverage.json holds what its tests ran.
 measure() {
-  local build=build/$1 program profiles=() export
+  local build=build/$1 program profiles=() show
   cmake --preset "$1" >/dev/null
   cmake --build "$build" >"$build/build.log" || { tail -n 40 "$build/build.log"; return 1; }
   for program in tests core_tests host_tests; do
@@ -20,10 +20,10 @@ measure() {
     (cd "$build/tests" && LLVM_PROFILE_FILE=../$program.profraw "./zeph_$program" --gtest_brief=1)
   done
   llvm-profdata-19 merge -sparse "${profiles[@]}" -o "$build/tests.profdata"
-  export=(llvm-cov-19 export -instr-profile "$build/tests.profdata" "$build/src/libzeph.so"
+  show=(llvm-cov-19 export -instr-profile "$build/tests.profdata" "$build/src/libzeph.so"
     -object "$build/tests/zeph_core_tests" -sources src)
-  "${export[@]}" >"$build/coverage.json"
-  "${export[@]}" -format lcov >"$build/coverage.lcov"
+  "${show[@]}" >"$build/coverage.json"
+  "${show[@]}" -format lcov >"$build/coverage.lcov"
 }
 
 measure coverage
