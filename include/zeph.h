@@ -553,8 +553,9 @@ ZEPH_API void Zeph_Seperate_Char_With_Index(const char* text, char delimiter, ch
                                             int limit);
 ///@}
 
-/// Returns the index of the first item that equals `value`, or -1 if none does. Items compare as in
-/// Zeph_Compare(), those of the members with `_L` as in Zeph_Compare_L().
+/// Returns the index of the first item that equals `value`, or -1 if none does; an index beyond an
+/// `int` is told as the largest one. Items compare as in Zeph_Compare(), those of the members with
+/// `_L` as in Zeph_Compare_L().
 ///
 /// Takes two work buffers of the list's length + 1 bytes. If the heap refuses one, each refusal is
 /// reported as "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem", and the result is -1. The time is
@@ -605,8 +606,8 @@ ZEPH_API void Zeph_Join(const std::vector<std::string>& list, char delimiter, st
 /// | no digit       | integers 0, reals refused | 0, but "inf" and "nan"    | 0              |
 ///
 /// *Bounds*: a value passes if `minimum <= value <= maximum`. Two equal bounds are no bound at all:
-/// (5, 5) does not ask for the value 5. A minimum above the maximum refuses every value. The value
-/// is stored in either case.
+/// (5, 5) does not ask for the value 5. A minimum above the maximum refuses every value; a
+/// bound that is not-a-number bounds nothing. The value is stored in either case.
 ///
 /// *Slices*: `start` and `count` select the bytes from index `start` to `start + count - 1`. Both
 /// are not negative and lie within the text; neither is tested against it. A pair of numbers in
