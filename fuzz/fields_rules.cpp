@@ -79,14 +79,14 @@ Fields items_of(const std::string& list, char separator) {
 void blank_fields(Draw& draw) {
   const std::size_t count = 2 + draw.below(4), limit = 1 + draw.below(draw.yes() ? 6 : 140);
   const std::string text = list_text(draw);
-  expect_split(blank_cut, count, text, limit, cut_at_blanks(count, text, limit));
+  expect_split(blank_cut, count, text, static_cast<int>(limit), cut_at_blanks(count, text, limit));
 }
 
 void char_fields(Draw& draw) {
   const std::size_t count = 2 + draw.below(4), limit = 1 + draw.below(draw.yes() ? 6 : 140);
   const char delimiter = draw.yes() ? ',' : static_cast<char>(draw.byte());
   const std::string text = list_text(draw);
-  expect_split(CharCut{delimiter}, count, text, limit,
+  expect_split(CharCut{delimiter}, count, text, static_cast<int>(limit),
                cut_at_delimiters(count, text, delimiter, limit));
 }
 

@@ -8,10 +8,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <memory>
+#include <deque>
 #include <string>
-#include <utility>
-#include <vector>
 
 #include "fields/fields_table.h"
 #include "support/guarded_buffer.h"
@@ -19,83 +17,65 @@
 
 namespace zeph_test {
 
-template <typename Family, typename Text, typename Outputs, std::size_t... i>
-void call_split(Family family, Text&& text, int limit, Outputs& outputs,
-                std::index_sequence<i...>) {
-  family(text, limit, outputs[i]...);
-}
-
 template <typename Family, typename Text, typename Outputs>
-void call_split(Family family, std::size_t count, Text&& text, int limit, Outputs& outputs) {
+void call_split(Family family, std::size_t count, Text&& text, int limit, Outputs& o) {
   switch (count) {
     case 2:
-      return call_split(family, text, limit, outputs, std::make_index_sequence<2>());
+      return family(text, limit, o[0], o[1]);
     case 3:
-      return call_split(family, text, limit, outputs, std::make_index_sequence<3>());
+      return family(text, limit, o[0], o[1], o[2]);
     case 4:
-      return call_split(family, text, limit, outputs, std::make_index_sequence<4>());
+      return family(text, limit, o[0], o[1], o[2], o[3]);
     default:
-      return call_split(family, text, limit, outputs, std::make_index_sequence<5>());
+      return family(text, limit, o[0], o[1], o[2], o[3], o[4]);
   }
 }
 
-// The byte text form with rooms of exactly limit + 1 bytes; bytes behind terminators are checked.
-template <typename Family>
-Fields split_bytes(Family family, std::size_t count, const char* text, int limit) {
-  const auto room = static_cast<std::size_t>(std::max(limit, 0)) + 1;
-  std::vector<std::unique_ptr<GuardedBuffer>> rooms;
+// The byte text form with outputs of `room` bytes; bytes behind terminators are checked. The last
+// output may be the text itself.
+enum class Last { apart, in_place };
+template <typename Family, typename Char>
+Fields split_bytes(Family family, std::size_t count, Char* text, int limit, std::size_t room,
+                   Last last = Last::apart) {
+  std::deque<GuardedBuffer> rooms;
   std::vector<char*> outputs;
-  for (std::size_t i = 0; i < count; ++i) {
-    rooms.push_back(std::make_unique<GuardedBuffer>(room));
-    outputs.push_back(rooms.back()->data());
-  }
+  for (std::size_t i = 0; i < count; ++i) outputs.push_back(rooms.emplace_back(room).data());
+  if (last == Last::in_place) outputs.back() = const_cast<char*>(text);
   call_split(family, count, text, limit, outputs);
-  Fields fields;
-  for (const auto& output : rooms) {
-    fields.emplace_back(output->data());
-    EXPECT_TRUE(output->untouched(fields.back().size() + 1)) << "bytes behind the terminator";
+  const Fields fields(outputs.begin(), outputs.end());
+  for (std::size_t i = 0; i + (last == Last::in_place) < count; ++i) {
+    EXPECT_TRUE(rooms[i].untouched(fields[i].size() + 1)) << "bytes behind the terminator";
   }
   return fields;
 }
 
-// The byte text form with the text itself as the last output.
-template <typename Family>
-Fields split_in_place(Family family, std::size_t count, const std::string& text, int limit) {
-  const auto room = static_cast<std::size_t>(std::max(limit, 0)) + 1;
-  std::vector<std::vector<char>> rooms(count, std::vector<char>(room, '#'));
-  std::vector<char*> outputs;
-  for (auto& output : rooms) outputs.push_back(output.data());
-  GuardedText buffer(text);
-  outputs.back() = buffer.data();
-  call_split(family, count, static_cast<const char*>(buffer.data()), limit, outputs);
-  return Fields(outputs.begin(), outputs.end());
+inline std::size_t room_for(int limit) {
+  return static_cast<std::size_t>(std::max(limit, 0)) + 1;
 }
 
 // The String form; output number `alias`, if there is one, is the input object.
 template <typename Family>
 Fields split_strings(Family family, std::size_t count, const std::string& text, int limit,
                      std::size_t alias = 5) {
-  Fields fields(5, "former content");
-  if (alias < count) {
-    fields[alias] = text;
-    call_split(family, count, fields[alias], limit, fields);
-  } else {
-    call_split(family, count, text, limit, fields);
-  }
+  Fields fields(6, "former content");
+  fields[alias] = text;
+  call_split(family, count, fields[alias], limit, fields);
   fields.resize(count);
   return fields;
 }
 
 // All forms give the expected fields.
 template <typename Family>
-void expect_split(Family family, std::size_t count, const std::string& text, std::size_t limit,
+void expect_split(Family family, std::size_t count, const std::string& text, int limit,
                   const Fields& expected) {
   SCOPED_TRACE("'" + text + "' " + std::to_string(count) + " fields, limit " +
                std::to_string(limit));
-  const int bound = static_cast<int>(limit);
-  ASSERT_EQ(split_bytes(family, count, GuardedText(text).data(), bound), expected);
-  ASSERT_EQ(split_in_place(family, count, text, bound), expected);
-  ASSERT_EQ(split_strings(family, count, text, bound, text.size() % 6), expected);
+  const GuardedText apart(text), in_place(text);
+  const char *const from = apart.data(), *const own = in_place.data();
+  const std::size_t room = room_for(limit);
+  ASSERT_EQ(split_bytes(family, count, from, limit, room), expected);
+  ASSERT_EQ(split_bytes(family, count, own, limit, room, Last::in_place), expected);
+  ASSERT_EQ(split_strings(family, count, text, limit, text.size() % 6), expected);
 }
 
 // As expect_split, for a family that cuts from the right and has no limit.
@@ -103,20 +83,11 @@ template <typename Family>
 void expect_reverse(Family family, std::size_t count, const std::string& text,
                     const Fields& expected) {
   SCOPED_TRACE("'" + text + "' " + std::to_string(count) + " outputs");
-  for (const bool in_place : {false, true}) {
-    const GuardedText buffer(text);
-    std::vector<std::unique_ptr<GuardedText>> rooms;
-    std::vector<char*> outputs;
-    for (std::size_t i = 0; i < count; ++i) {
-      rooms.push_back(std::make_unique<GuardedText>(std::string(text.size(), '#')));
-      outputs.push_back(in_place && i == count - 1 ? buffer.data() : rooms.back()->data());
-    }
-    call_split(family, count, buffer.data(), 0, outputs);
-    ASSERT_EQ(Fields(outputs.begin(), outputs.end()), expected);
-    if (!in_place) {
-      ASSERT_EQ(buffer.data(), text) << "the text is unchanged";
-    }
-  }
+  const GuardedText apart(text), in_place(text);
+  const std::size_t room = text.size() + 1;
+  ASSERT_EQ(split_bytes(family, count, apart.data(), 0, room), expected);
+  ASSERT_EQ(apart.data(), text) << "the text is unchanged";
+  ASSERT_EQ(split_bytes(family, count, in_place.data(), 0, room, Last::in_place), expected);
 }
 
 // The families. Those that cut from the right have no limit; the harness passes one on.
