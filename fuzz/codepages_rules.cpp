@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "codepage/codepage_model.h"
-#include "codepage/known_texts_table.h"
+#include "codepage/parts_table.h"
 #include "rules.h"
 #include "zeph.h"
 

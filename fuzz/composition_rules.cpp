@@ -7,7 +7,6 @@
 #include <new>
 #include <string>
 
-#include "rewrite/alarm_harness.h"
 #include "rules.h"
 #include "support/guarded_buffer.h"
 #include "support/stdout_capture.h"
@@ -68,6 +67,34 @@ void printed_to_size(Draw& draw) {
   const std::string whole = text + "-" + printed("%d", size) + more;
   EXPECT_EQ(Zeph_Splicing(size, "%s-%d%s", text.c_str(), size, more.c_str()),
             whole.substr(0, static_cast<std::size_t>(std::max(size - 1, 0))));
+}
+
+// The first text in a buffer of `room` bytes, which holds the result.
+std::string join_alarms(const std::vector<std::string>& texts, std::size_t room) {
+  const GuardedBuffer first(room);
+  first.data()[texts[0].copy(first.data(), texts[0].size())] = '\0';
+  std::vector<const char*> more;
+  for (std::size_t i = 1; i < texts.size(); ++i) more.push_back(texts[i].c_str());
+  const auto call = [&](auto... indexes) {
+    Zeph_Strcat_Alarm_Append_Text(first.data(), more[std::size_t(indexes)]...);
+  };
+  switch (more.size()) {
+    case 1:
+      call(0);
+      break;
+    case 2:
+      call(0, 1);
+      break;
+    case 3:
+      call(0, 1, 2);
+      break;
+    case 4:
+      call(0, 1, 2, 3);
+      break;
+    default:
+      call(0, 1, 2, 3, 4);
+  }
+  return first.data();
 }
 
 void joined_alarms(Draw& draw) {

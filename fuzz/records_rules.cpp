@@ -31,7 +31,7 @@ std::string header(std::uint32_t length, std::uint32_t pads) {
   return bytes + std::string(8, GuardedBuffer::pattern);
 }
 
-std::string opened(const std::string& record, std::size_t room, unsigned long result) {
+std::string opened(const std::string& record, std::size_t room, std::size_t result) {
   const GuardedText from(record, End::bare);
   const GuardedBuffer text(room);
   EXPECT_EQ(Zeph_Decrypt(from.data(), text.data()), result);

@@ -23,13 +23,8 @@ const std::string sealed_at_load = sealed("hello");
 
 }  // namespace
 
-TEST(SealedRecords, HoldTheseBytes) {
+TEST(SealedRecords, AreReadyBeforeMain) {
   EXPECT_EQ(sealed_at_load, hello_record);
-  each_row(sealed_rows, [](auto row) {
-    Orbane::Zeph_Encrypt_Reset_Key(static_cast<unsigned long>(row.key.size()),
-                                   reinterpret_cast<unsigned char*>(&row.key[0]));
-    EXPECT_EQ(sealed(row.text), row.record);
-  });
 }
 
 TEST(SealedRecords, AreRefusedIfUnsound) {

@@ -3,21 +3,14 @@
 #include <string>
 
 #include "codepage/codepage_model.h"
-#include "codepage/known_texts_table.h"
 #include "support/refusing_heap.h"
-#include "support/table.h"
 #include "zeph.h"
 
 using namespace zeph_test;
 using Orbane::Zeph_ANSI_to_UTF8;
 using Orbane::Zeph_UTF8_to_ANSI;
 
-TEST(CodePage, KnownTexts) {
-  each_row(known_texts, [](const auto& row) {
-    EXPECT_EQ(Zeph_UTF8_to_ANSI(row.utf8), row.ansi);
-    EXPECT_EQ(Zeph_ANSI_to_UTF8(row.ansi), row.back);
-  });
-  EXPECT_EQ(Zeph_ANSI_to_UTF8("\x81\x30|\x81\x7F|\xFE\xFF|\x81"), "?|?|?|?");
+TEST(CodePage, NullIsTheEmptyText) {
   EXPECT_EQ(Zeph_UTF8_to_ANSI(static_cast<const char*>(nullptr)), "");
   EXPECT_EQ(Zeph_ANSI_to_UTF8(static_cast<const char*>(nullptr)), "");
 }

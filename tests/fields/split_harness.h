@@ -10,12 +10,14 @@
 #include <algorithm>
 #include <deque>
 #include <string>
+#include <vector>
 
-#include "fields/fields_table.h"
 #include "support/guarded_buffer.h"
 #include "zeph.h"
 
 namespace zeph_test {
+
+using Fields = std::vector<std::string>;
 
 template <typename Family, typename Text, typename Outputs>
 void call_split(Family family, std::size_t count, Text&& text, int limit, Outputs& o) {

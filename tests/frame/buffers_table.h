@@ -35,32 +35,6 @@ const struct {
     {"no target", nullptr, 0, "XY", 1, bad_pointer, nullptr},
 };
 
-const struct {
-  const char* why;
-  const char* source;
-  int size;
-  const char* result;
-} cut_texts[] = {
-    {"cut", "abcdef", 4, "abc"},        {"fits to the byte", "abc", 4, "abc"},
-    {"terminator alone", "abc", 1, ""}, {"NULL is the empty text", nullptr, 2, ""},
-    {"room to spare", "ab", 100, "ab"},
-};
-
-const struct {
-  const char* why;
-  int integer;
-  double real;
-  int size;
-  const char* integer_text;
-  const char* real_text;
-} cut_numbers[] = {
-    {"six digits behind the point", 0, 1.5, 9, "0", "1.500000"},
-    {"cut", 12345, 2.25, 4, "123", "2.2"},
-    {"lowest", INT_MIN, -0.0, 12, "-2147483648", "-0.000000"},
-    {"highest", INT_MAX, DBL_MAX, 17, "2147483647", "1797693134862315"},
-    {"terminator alone", 7, 7.0, 1, "", ""},
-};
-
 }  // namespace zeph_test
 
 #endif  // ZEPH_TESTS_FRAME_BUFFERS_TABLE_H

@@ -103,19 +103,6 @@ TEST(Buffers, ARefusalEndsTheOldBlock) {
 }
 
 TEST(Buffers, CopyStackCutsAtTheRoom) {
-  each_row(cut_texts, [](const auto& row) {
-    const GuardedBuffer target(static_cast<std::size_t>(row.size));
-    EXPECT_TRUE(Zeph_Copy_Stack(target.data(), row.source, row.size));
-    EXPECT_STREQ(target.data(), row.result);
-  });
-  each_row(cut_numbers, [](const auto& row) {
-    const auto size = static_cast<std::size_t>(row.size);
-    const GuardedBuffer integer(size), real(size);
-    EXPECT_TRUE(Zeph_Copy_Stack(integer.data(), row.integer, row.size));
-    EXPECT_TRUE(Zeph_Copy_Stack(real.data(), row.real, row.size));
-    EXPECT_STREQ(integer.data(), row.integer_text);
-    EXPECT_STREQ(real.data(), row.real_text);
-  });
   const GuardedText bare("abc", End::bare);
   char line[4];
   EXPECT_TRUE(Zeph_Copy_Stack(line, bare.data(), 4)) << "reads no further than it writes";

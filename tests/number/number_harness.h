@@ -10,11 +10,12 @@
 #include <cstring>
 #include <string>
 
-#include "number/real_text_table.h"
 #include "support/guarded_buffer.h"
 #include "zeph.h"
 
 namespace zeph_test {
+
+constexpr double before = -77.0;  // what an output holds before a call
 
 // `check(text, slice...)` for byte texts and Strings, which end at a zero byte, and their slices.
 template <typename Check>

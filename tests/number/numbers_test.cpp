@@ -4,9 +4,7 @@
 #include <string>
 
 #include "number/number_harness.h"
-#include "number/real_format_table.h"
 #include "support/stdout_capture.h"
-#include "support/table.h"
 
 using namespace Orbane;
 using namespace zeph_test;
@@ -50,35 +48,9 @@ TEST(Numbers, NegativeCountsAreRefusedWorkBuffers) {
     EXPECT_FALSE(Zeph_To_Int("12", &value, 0, count));
     EXPECT_FALSE(Zeph_To_Double("12", &real, 0, count));
     EXPECT_EQ(value + real, 14);
+    EXPECT_EQ(Zeph_HexStr_to_DecInt("12", 1, count), 0);
     EXPECT_EQ(capture.text(), banners(2, "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem"));
   }
-}
-
-TEST(Numbers, Integers) {
-  int value = 0;
-  EXPECT_TRUE(Zeph_To_Int("rpm=1200", &value, 4, 4));
-  EXPECT_EQ(value, 1200);
-  EXPECT_FALSE(Zeph_To_Int("-12a", &value));
-  EXPECT_EQ(value, 12) << "the digits in front, without a sign";
-  EXPECT_TRUE(Zeph_To_Int("4294967297", 5, 5, &value)) << "two equal bounds are none";
-  EXPECT_EQ(value, 1);
-  EXPECT_FALSE(Zeph_To_Int("-0x80000000", 0, 9, &value));
-  EXPECT_EQ(value, INT_MIN) << "stored, though outside the bounds";
-  EXPECT_EQ(Zeph_Int_Check("-0x"), 2);
-  EXPECT_EQ(Zeph_HexStr_to_DecInt("1\00023", 0, 3), 0x12);
-  EXPECT_EQ(Zeph_HexStr_to_DecInt("12", 1, INT_MIN), 0);
-  EXPECT_EQ(Zeph_HexStr_to_DecInt("0x1F, 2"), 0x1F2);
-}
-
-TEST(Numbers, Reals) {
-  each_row(judged_texts,
-           [](const auto& row) { expect_read(row.text, row.code, row.value, row.lenient); });
-  each_row(real_bounds, [](const auto& row) {
-    double value = before;
-    EXPECT_EQ(Zeph_To_Double("2.5", row.minimum, row.maximum, &value), row.passes);
-    expect_same(value, 2.5);
-  });
-  each_row(precision_rows, [](const auto& row) { expect_written(row.value, row.code, row.text); });
 }
 
 TEST(Numbers, EveryPowerOfTen) {

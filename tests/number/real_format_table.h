@@ -40,31 +40,6 @@ const double special_values[] = {0.0,
 
 const struct {
   const char* why;
-  double value;
-  int code;
-  std::string text;
-} precision_rows[] = {
-    {"two decimals", 1234.5678, 2, "1234.57"},
-    {"no decimals, no point", 1234.5678, 0, "1235"},
-    {"ten decimals", 1234.5678, 10, "1234.5678000000"},
-    {"exponent", 1234.5678, -2, "1.23e+03"},
-    {"ten decimals and exponent", 1234.5678, -10, "1.2345678000e+03"},
-    {"beyond the codes", 1234.5678, 11, "1234.567800"},
-    {"beyond the codes, negative", 1234.5678, -11, "1234.567800"},
-    {"the least code", 1234.5678, std::numeric_limits<int>::min(), "1234.567800"},
-    {"zero with exponent", 0.0, -3, "0.000e+00"},
-    {"a tie goes to the even digit", 2.5, 0, "2"},
-    {"a tie behind the point", 0.125, 2, "0.12"},
-    {"no tie: the stored value is below", 1.005, 2, "1.00"},
-    {"carries into a new digit", 9.999, 2, "10.00"},
-    {"the code picks the notation", 1e-5, 2, "0.00"},
-    {"rounds to negative zero", -0.001, 2, "-0.00"},
-    {"three digits of exponent", 1e300, -1, "1.0e+300"},
-    {"cut at 63", 1e62, 1, "100000000000000003502199685943161173046080317798311825604870144"},
-};
-
-const struct {
-  const char* why;
   const char* text;
   const char* trimmed;
 } exponent_rows[] = {

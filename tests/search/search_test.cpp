@@ -3,22 +3,10 @@
 #include <climits>
 #include <string>
 
-#include "search/search_harness.h"
-#include "search/slices_table.h"
-#include "support/table.h"
+#include "support/guarded_buffer.h"
+#include "zeph.h"
 
 using namespace zeph_test;
-
-TEST(Search, SlicesAndMarkers) {
-  each_row(slices, [](const auto& row) {
-    expect_slice(row.text, row.start, row.count, row.bytes, row.string, row.loose);
-  });
-  each_row(delimited,
-           [](const auto& row) { expect_between(row.text, row.open, row.close, row.between); });
-  each_row(markers,
-           [](const auto& row) { expect_around(row.text, row.marker, row.left, row.right); });
-  each_row(paths, [](const auto& row) { expect_name(row.path, row.size, row.name); });
-}
 
 TEST(Search, UncheckedSliceTakesWhatItIsTold) {
   const GuardedText text(std::string("ab\0def", 6), End::bare);
@@ -56,13 +44,4 @@ TEST(Search, PiecesOfLongTexts) {
       }
     }
   }
-}
-
-TEST(Search, Positions) {
-  EXPECT_EQ(Orbane::Zeph_Find_Position("hello", "lo"), 3);
-  EXPECT_EQ(Orbane::Zeph_Find_Position("hello", 0, 4, "lo"), -1) << "the match needs index 4";
-  EXPECT_EQ(Orbane::Zeph_Find_Position("hello", -7, 5, "h"), 0) << "a negative start is 0";
-  EXPECT_EQ(Orbane::Zeph_Find_Position("", ""), -1) << "an empty pattern stands nowhere";
-  EXPECT_EQ(Orbane::Zeph_Find_Position_L("Alarm set", "ALARM"), 0);
-  EXPECT_TRUE(Orbane::Zeph_Find_SubString("hello", "ell"));
 }

@@ -13,8 +13,6 @@
 #include <string>
 
 #include "support/guarded_buffer.h"
-#include "support/table.h"
-#include "time/durations_table.h"
 #include "time/stamps_table.h"
 
 using namespace zeph_test;
@@ -100,10 +98,6 @@ TEST(Stamps, TellTheTimeInBuffersOfTheirOwn) {
     buffers.insert(stamp.get());
   }
   EXPECT_EQ(buffers.size(), 5u);
-}
-
-TEST(Durations, AreCutAndNeverRounded) {
-  each_row(durations, [](const auto& row) { expect_both(row.seconds, row.text); });
 }
 
 TEST(Durations, AreWhatTheFormatsGive) {
