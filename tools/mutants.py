@@ -4,7 +4,8 @@
 How many small mistakes in src/ do the tests notice? Makes one wrong change at a time in a copy of the
 tree under build/mutants, builds, and runs the tests; the tree itself is not touched. A change counts
 if it compiles and the library's bytes differ. N changes are spread over the files that match
-a PATTERN (all but generated tables without one), the same ones for the same seed.
+a PATTERN (all but generated tables without one), the same ones for the same seed. A golden row that
+differs is a failed test.
 
 A surviving change that cannot matter stands in tests/survivors.txt, one a line:
 
@@ -36,7 +37,9 @@ WORDS = {'true': 'false', 'false': 'true', 'break': 'continue', 'continue': 'bre
 CONDITION = re.compile(r'\b(if|while) \((?!const|int|char|auto|std|unsigned)(?=.*\) |.*\)$)', re.M)
 STATEMENT = re.compile(r'^[ \t]+(?!return|using|throw|break|continue|delete|static|const)'
                        r'[\w:.>\[\]*-]+(?:\(| [-+*/%&|^]?=[ ]|\+\+|--)[^\n{}]*;$', re.M)
-TESTS = [('zeph_core_tests',), ('zeph_tests',), ('zeph_host_tests',)]
+QUICK = '--gtest_fail_fast'
+TESTS = [('../tools/zeph_golden', '../../../tests/golden.txt'), ('zeph_core_tests', QUICK), ('zeph_tests', QUICK),
+         ('zeph_host_tests', QUICK)]
 LIKELY = {  # the sweeps that know most of a folder; they run first
     'cipher': 'records', 'codepage': 'codepages', 'compare': 'search', 'fields': 'fields',
     'frame': 'composition', 'number': 'numbers', 'rewrite': 'rewriting', 'search': 'search',
@@ -119,9 +122,9 @@ class Copy:
         return hashlib.sha256(open(self.build + '/src/libzeph.so', 'rb').read()).hexdigest()
 
     def passes(self, folder='', limit=40):
-        likely = ('zeph_tests', '--gtest_filter=Families/Sweep.*/%s' % LIKELY.get(folder, 'fields'))
-        return all(self.run('./' + test[0], *test[1:], '--gtest_fail_fast', limit=limit,
-                            where=self.build + '/tests') for test in [likely] + TESTS)
+        likely = 'Families/Sweep.*/' + LIKELY.get(folder, 'fields')
+        return all(self.run('./' + test[0], *test[1:], limit=limit, where=self.build + '/tests')
+                   for test in [('zeph_tests', QUICK, '--gtest_filter=' + likely)] + TESTS)
 
     def verdict(self, file, start, end, new):
         path = self.root + '/' + file
@@ -166,8 +169,8 @@ def main():
         what = ' '.join('{} -> {}'.format(text[start:end], new).split())
         if verdict == 'survived' and (file, source, what) in equivalent:
             verdict = 'equivalent'
-        if verdict in ('survived', 'equivalent'):
-            print('%s %s:%d | %s | %s' % (verdict, file, line, source, what), flush=True)
+        mark = '' if verdict in ('survived', 'equivalent') else '    '
+        print('%s%s %s:%d | %s | %s' % (mark, verdict, file, line, source, what), flush=True)
         return verdict
 
     with concurrent.futures.ThreadPoolExecutor(options.jobs) as pool:
