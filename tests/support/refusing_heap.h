@@ -12,23 +12,62 @@
 #ifndef ZEPH_TESTS_SUPPORT_REFUSING_HEAP_H
 #define ZEPH_TESTS_SUPPORT_REFUSING_HEAP_H
 
+#include <atomic>
 #include <cstddef>
 
 namespace zeph_test {
 
+// Requests are counted from 1; those from `first` to `first + count - 1` are refused. The counters
+// order nothing between threads, so that a checker of races sees the same as without them.
+struct HeapGate {
+  std::atomic<long> seen{0}, first{0}, count{0};
+  std::atomic<std::size_t> last_size{0};
+
+  bool refuses(std::size_t size) {
+    last_size.store(size, std::memory_order_relaxed);
+    const long number = seen.fetch_add(1, std::memory_order_relaxed) + 1;
+    const long from = first.load(std::memory_order_relaxed);
+    return number >= from && number < from + count.load(std::memory_order_relaxed);
+  }
+  void close(long from, long many) {
+    count = seen = 0;
+    first = from;
+    count = many;
+  }
+};
+
+extern HeapGate calloc_gate, new_gate;
+
 class RefusingHeap {
  public:
-  RefusingHeap();
-  ~RefusingHeap();
+  RefusingHeap() {
+    calloc_gate.close(0, 0);
+    new_gate.close(0, 0);
+  }
+  ~RefusingHeap() {
+    refuse_no_more();
+  }
   RefusingHeap(const RefusingHeap&) = delete;
   RefusingHeap& operator=(const RefusingHeap&) = delete;
 
-  void refuse_calloc(long first, long count = 1);
-  void refuse_new(long first, long count = 1);
-  static void refuse_no_more();  // the counts stay
-  long callocs() const;
-  std::size_t last_calloc() const;  // the bytes of the newest request
-  long news() const;
+  void refuse_calloc(long first, long count = 1) {
+    calloc_gate.close(first, count);
+  }
+  void refuse_new(long first, long count = 1) {
+    new_gate.close(first, count);
+  }
+  static void refuse_no_more() {  // the counts stay
+    calloc_gate.count = new_gate.count = 0;
+  }
+  long callocs() const {
+    return calloc_gate.seen;
+  }
+  std::size_t last_calloc() const {  // the bytes of the newest request
+    return calloc_gate.last_size;
+  }
+  long news() const {
+    return new_gate.seen;
+  }
 };
 
 #ifdef _WIN32
