@@ -39,6 +39,7 @@ void dumps(Draw& draw) {
   char* const kept = block;
   EXPECT_EQ(Zeph_To_Ascii(ended.data(), &block), kept) << "a block with the room is kept";
   EXPECT_EQ(block, printed("%02X", text));
+  EXPECT_TRUE(text.empty() || block[3 * text.size()] == '\0') << "the room of the last blank";
   const int none = std::min(draw.any_int(), 0);
   EXPECT_EQ(Zeph_To_Ascii(source.data(), none), "");
   EXPECT_STREQ(Zeph_To_Ascii(source.data(), none, &block), "");
