@@ -65,7 +65,7 @@ void strict_integers(Draw& draw) {
 
 // atoi on a slice, in a buffer of the caller's or without one.
 void lenient_integers(Draw& draw) {
-  std::string bytes = draw.yes() ? any_of(draw, lenient_texts) : draw.text(12, " \t-+09x");
+  std::string bytes = draw.yes() ? any_of(draw, lenient_texts) : draw.text(12, " \t-+09x:/");
   SCOPED_TRACE(bytes);
   const auto size = static_cast<int>(bytes.size());
   const GuardedText slice(bytes, End::bare);
@@ -127,7 +127,7 @@ std::string real_text(Draw& draw) {
     case 0:
       return draw.text(8, "05.e-+");
     case 1:
-      return draw.text(8, " 0x1pE.-n");
+      return draw.text(8, " 0x1pE.-n:/");
     case 2:
       return middle_of_doubles(draw);
     default:

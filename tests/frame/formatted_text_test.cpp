@@ -43,8 +43,10 @@ TEST(FormattedText, StrictWritesWhatWasMeasured) {
   EXPECT_EQ(zeph::format_strict(tight.data(), 4, "%.2lf", 0.125), -1);
   EXPECT_STREQ(tight.data(), "");
   EXPECT_EQ(zeph::format_strict(nullptr, 0, "%d", 1), -1);
+#ifndef _WIN32
   EXPECT_EQ(zeph::format_strict(exact.data(), 5, "%ls", L"\x4E2D"), -1) << "no such byte in \"C\"";
   EXPECT_STREQ(exact.data(), "");
+#endif
 }
 
 TEST(FormattedText, ScanCountsFieldsAndKeepsErrno) {
