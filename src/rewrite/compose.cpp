@@ -67,7 +67,7 @@ std::string Zeph_Splicing(int size, const char* format, ...) {
   // As an unsigned size, a negative one is more than any heap has. The heap is not even asked:
   // checking heaps take such a request for a fault and stop the process.
   if (size < 0) throw std::bad_alloc();
-  if (size == 0) return std::string();
+  if (size <= 1) return std::string();
   struct Arguments {
     std::va_list list;
     ~Arguments() {
