@@ -136,7 +136,7 @@ std::string real_text(Draw& draw) {
 }
 
 void reals(Draw& draw) {
-  if (!runtime_is_exact()) GTEST_SKIP() << "the runtime does not round to nearest";
+  if (!runtime_is_exact()) return;  // no judge; a test of its own skips and tells
   const std::string text = real_text(draw);
   double scanned = 0.0;
   std::sscanf(text.c_str(), "%lf", &scanned);
