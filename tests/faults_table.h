@@ -72,6 +72,7 @@ const struct Fault {
     {"Zeph_To_Double, String, bounds", [] { double n = 7; const Text s = numbers; bool b = Orbane::Zeph_To_Double(s, 1, 9, &n, 3, 3); return shown(std::to_string(b), std::to_string(n)); }, "0|7.000000|", 1, prepare},
     {"Zeph_Replace, String", [] { Text s = "one,two,three"; Orbane::Zeph_Replace(s, Text(","), Text(" and then ")); return shown(s); }, "", 0, ""},
     {"Zeph_Replace, byte text", [] { char s[40] = "aaaabb"; Orbane::Zeph_Replace(s, "ab", "bca"); return shown(s); }, "aaaabb|", 2, nullptr},
+    {"Zeph_Replace, byte text, apart", [] { char s[40] = "a,b"; Orbane::Zeph_Replace(s, ",", "--"); return shown(s); }, "", 0, nullptr},
     {"Zeph_String_Check", [] { Text out; Orbane::Zeph_String_Check(words, out); return shown(out); }, "", 0, ""},
     {"Zeph_Splicing", [] { return shown(Orbane::Zeph_Splicing(99, "%s", words.c_str())); }, "", 0, ""},
     {"Zeph_To_Ascii", [] { return shown(Orbane::Zeph_To_Ascii(words.c_str())); }, "", 0, ""},
