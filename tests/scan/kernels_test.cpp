@@ -116,6 +116,18 @@ TEST(Kernels, Runs) {
   });
 }
 
+// A far byte is looked for in pieces that grow.
+TEST(Kernels, FindByteBehindPieces) {
+  for (const std::size_t size : {1023u, 1024u, 1025u, 3071u, 3072u, 3073u, 9000u}) {
+    const GuardedText hit(std::string(size, 'a') + 'b'), bare(std::string(size, 'a'), End::bare);
+    for (const std::size_t most : {size - 1, size, size + 1, size + 5000}) {
+      ASSERT_EQ(zeph::find_byte_or_end(hit.data(), 'b', most), hit.data() + std::min(most, size));
+    }
+    ASSERT_EQ(zeph::find_byte_or_end(hit.data(), 'x', size + 5000), hit.data() + size + 1);
+    ASSERT_EQ(zeph::find_byte_or_end(bare.data(), 'b', size), bare.data() + size);
+  }
+}
+
 // At every distance that overlaps or touches.
 TEST(Kernels, MoveBytes) {
   std::string pattern;
