@@ -10,6 +10,7 @@
 
 #include "cipher/aes_paths_table.h"
 #include "cipher/aes_vectors_table.h"
+#include "cipher/wipe.h"
 #include "support/guarded_buffer.h"
 #include "support/table.h"
 #include "zeph.h"
@@ -121,6 +122,12 @@ TEST(AesContext, HoldsTheExpandedDefaultKeyAtLoad) {
   EXPECT_EQ(std::memcmp(&at_load, &g_aes, sizeof at_load), 0);
   EXPECT_EQ(std::string(at_load.key, at_load.key + 14), std::string("QX-LM_SEALKEY", 14));
   EXPECT_EQ(at_load.Nb, 4);
+}
+
+TEST(AesContext, WipesWorkingCopies) {
+  unsigned char bytes[9] = "key key";
+  zeph::wipe(bytes, sizeof bytes - 1);
+  EXPECT_EQ(Bytes(bytes, bytes + 9), Bytes(9));
 }
 
 TEST(AesContext, KeepsItsKeyWhenTheSizeIsNone) {
