@@ -19,6 +19,8 @@ measure() {
     profiles+=("$build/$program.profraw")
     (cd "$build/tests" && LLVM_PROFILE_FILE=../$program.profraw "./zeph_$program" --gtest_brief=1)
   done
+  profiles+=("$build/golden.profraw")
+  LLVM_PROFILE_FILE=$build/golden.profraw "$build/tools/zeph_golden" tests/golden.txt
   llvm-profdata-19 merge -sparse "${profiles[@]}" -o "$build/tests.profdata"
   show=(llvm-cov-19 export -instr-profile "$build/tests.profdata" "$build/src/libzeph.so"
     -object "$build/tests/zeph_core_tests" -sources src)

@@ -108,6 +108,8 @@ TEST(Buffers, CopyStackCutsAtTheRoom) {
   EXPECT_TRUE(Zeph_Copy_Stack(line, bare.data(), 4)) << "reads no further than it writes";
   EXPECT_STREQ(line, "abc");
   EXPECT_TRUE(Zeph_Copy_Stack(nullptr, "a", 0));
+  EXPECT_TRUE(Zeph_Copy_Stack(line, static_cast<const char*>(nullptr), 4));
+  EXPECT_STREQ(line, "") << "NULL is the empty text";
   const GuardedBuffer longest(318);
   EXPECT_TRUE(Zeph_Copy_Stack(longest.data(), -DBL_MAX, -1)) << "a negative size is no limit";
   EXPECT_EQ(std::string(longest.data()).size(), 317U);
