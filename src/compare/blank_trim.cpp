@@ -1,6 +1,7 @@
 // Blanks off the ends, in place: what stays is moved once, however many blanks there are.
 #include <cstring>
 
+#include "scan/move_bytes.h"
 #include "scan/other_byte.h"
 #include "zeph.h"
 
@@ -34,7 +35,7 @@ Kept without_both(const char* text, std::size_t size) {
 void keep_in_text(char* text, std::size_t size, Kept kept) {
   const std::size_t left = kept.end - kept.begin;
   if (left == size) return;
-  if (kept.begin > 0) std::memmove(text, text + kept.begin, left);
+  if (kept.begin > 0) move_bytes(text, text + kept.begin, left);
   std::memset(text + left, '\0', size - left);
 }
 

@@ -8,12 +8,13 @@ namespace zeph {
 namespace {
 
 // Shorter texts are folded byte by byte in less time than it takes to look at the locale.
-constexpr std::size_t worth_a_look = 8;
+constexpr std::size_t worth_a_look = 16;
 
 // `out` may be `from`.
 void put_fold(LetterCase to, char* out, const char* from, std::size_t size) {
   if (size >= worth_a_look && locale_folds_ascii(to)) return put_ascii_fold(to, out, from, size);
-  for (std::size_t i = 0; i < size; ++i) out[i] = locale_fold(to, from[i]);
+  const LocaleFold fold(to);
+  for (std::size_t i = 0; i < size; ++i) out[i] = fold(from[i]);
 }
 
 void fold_text(LetterCase to, const char* source, char* target) {

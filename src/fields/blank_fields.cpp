@@ -1,4 +1,5 @@
-#include "fields/blank_fields.h"
+// Fields between blanks.
+#include "fields/field_outputs.h"
 
 #include <cstring>
 
@@ -21,65 +22,65 @@ const char* skip_blanks(const char* text) {
 //
 // From wherever a field starts, a split reads at least `limit` bytes or up to the terminator: no
 // field ends it before it has seen that many. So they are there to be looked at.
-const char* put_near_fields(FieldWriter& writer, const char* text, std::size_t limit) {
-  const std::size_t most = std::min(limit, mask_bytes + 1);
+template <typename Sink>
+const char* put_near_fields(Sink& fields, const char* text) {
+  const std::size_t most = std::min(fields.limit(), mask_bytes + 1);
   const std::size_t size = strnlen(text, most);
   const char* from = text;
   std::uint64_t blanks = byte_mask(text, std::min(size, mask_bytes), blank);
-  while (blanks != 0 && writer.left() > 1) {
+  while (blanks != 0 && fields.left() > 1) {
     const char* const end = text + lowest_place(blanks);
-    writer.put(from, end);
+    fields.put(from, end);
     from = skip_blanks(end + 1);
     const auto seen = static_cast<std::size_t>(from - text);
     blanks = seen < mask_bytes ? blanks >> seen << seen : 0;
   }
   if (size == most) return from;
-  writer.put(from, text + size);
-  writer.put_empty();
+  fields.put(from, text + size);
+  fields.put_empty();
   return nullptr;
 }
 
-}  // namespace
-
-void split_blank_fields(const char* text, FieldOutputs outputs, std::size_t limit) {
-  FieldWriter writer(outputs, limit);
-  if (limit == 0) return writer.put_empty();
+// The core of Zeph_Seperate: one pass, which stops at the byte that fills a middle or the last
+// field.
+template <typename Sink>
+void split_blank_fields(const char* text, Sink& fields) {
+  const std::size_t limit = fields.limit(), count = fields.left();
+  if (limit == 0) return fields.put_empty();
   // A look pays if it may find two blanks, and for as long as fields are short.
-  if (outputs.count > 2) {
+  if (count > 2) {
     const char* before;
     do {
       before = text;
-      text = put_near_fields(writer, text, limit);
+      text = put_near_fields(fields, text);
       if (!text) return;
-    } while (text != before && writer.left() > 2);
+    } while (text != before && fields.left() > 2);
   }
-  if (writer.left() == outputs.count) {
+  if (fields.left() == count) {
     const char* const end = find_byte_or_end(text, blank);
-    writer.put(text, end);
+    fields.put(text, end);
     text = skip_blanks(end);
   }
-  while (writer.left() > 1) {
+  while (fields.left() > 1) {
     const char* const end = find_byte_or_end(text, blank, limit);
-    writer.put(text, end);
-    if (static_cast<std::size_t>(end - text) == limit) return writer.put_empty();
+    fields.put(text, end);
+    if (static_cast<std::size_t>(end - text) == limit) return fields.put_empty();
     text = skip_blanks(end);
   }
-  writer.put(text, text + strnlen(text, limit));
+  fields.put(text, text + strnlen(text, limit));
 }
-
-namespace {
 
 template <typename... Outputs>
 void split_blank_bytes(const char* text, int limit, Outputs... outputs) {
-  char* const fields[] = {outputs...};
-  split_blank_fields(text, {fields, sizeof...(Outputs)}, field_limit(limit));
+  char* const rooms[] = {outputs...};
+  FieldWriter writer({rooms, sizeof...(Outputs)}, field_limit(limit));
+  split_blank_fields(text, writer);
 }
 
 template <typename... Outputs>
 void split_blank_string(const std::string& text, int limit, Outputs&... outputs) {
-  const std::size_t room = field_limit(limit);
-  const auto split = [&](FieldOutputs work) { split_blank_fields(text.c_str(), work, room); };
-  split_into_strings(room, split, outputs...);
+  const auto split = [](const char* bytes, auto& fields) { split_blank_fields(bytes, fields); };
+  split_into_strings(text, limit, split, outputs...);
 }
 
 }  // namespace

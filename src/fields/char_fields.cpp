@@ -1,4 +1,5 @@
-#include "fields/char_fields.h"
+// Fields between single delimiters.
+#include "fields/field_outputs.h"
 
 #include <cstring>
 
@@ -11,58 +12,56 @@ namespace {
 
 // Puts the fields that end within the next bytes of the text, all found by one look. Returns where
 // the next field starts, or NULL if the text ended and all fields are put.
-const char* put_near_fields(FieldWriter& writer, const char* text, char delimiter) {
+template <typename Sink>
+const char* put_near_fields(Sink& fields, const char* text, char delimiter) {
   const std::size_t size = strnlen(text, mask_bytes + 1);
   const char* from = text;
   std::uint64_t places = byte_mask(text, std::min(size, mask_bytes), delimiter);
-  for (; places != 0 && writer.left() > 1; places &= places - 1) {
+  for (; places != 0 && fields.left() > 1; places &= places - 1) {
     const char* const end = text + lowest_place(places);
-    writer.put(from, end);
+    fields.put(from, end);
     from = end + 1;
   }
   if (size > mask_bytes) return from;
-  writer.put(from, text + size);
-  writer.put_empty();
+  fields.put(from, text + size);
+  fields.put_empty();
   return nullptr;
 }
 
-}  // namespace
-
-void split_char_fields(const char* text, char delimiter, FieldOutputs outputs, std::size_t limit) {
-  FieldWriter writer(outputs, limit);
+// The core of Zeph_Seperate_Char: one pass; a zero delimiter is never found.
+template <typename Sink>
+void split_char_fields(const char* text, char delimiter, Sink& fields) {
   // A look pays if it may find two delimiters, and for as long as fields are short.
-  if (outputs.count > 2) {
+  if (fields.left() > 2) {
     const char* before;
     do {
       before = text;
-      text = put_near_fields(writer, text, delimiter);
+      text = put_near_fields(fields, text, delimiter);
       if (!text) return;
-    } while (text != before && writer.left() > 2);
+    } while (text != before && fields.left() > 2);
   }
-  while (writer.left() > 1) {
+  while (fields.left() > 1) {
     const char* const end = find_byte_or_end(text, delimiter);
-    writer.put(text, end);
-    if (*end == '\0') return writer.put_empty();
+    fields.put(text, end);
+    if (*end == '\0') return fields.put_empty();
     text = end + 1;
   }
-  writer.put(text, text + strnlen(text, limit));
+  fields.put(text, text + strnlen(text, fields.limit()));
 }
-
-namespace {
 
 template <typename... Outputs>
 void split_char_bytes(const char* text, char delimiter, int limit, Outputs... outputs) {
-  char* const fields[] = {outputs...};
-  split_char_fields(text, delimiter, {fields, sizeof...(Outputs)}, field_limit(limit));
+  char* const rooms[] = {outputs...};
+  FieldWriter writer({rooms, sizeof...(Outputs)}, field_limit(limit));
+  split_char_fields(text, delimiter, writer);
 }
 
 template <typename... Outputs>
 void split_char_string(const std::string& text, char delimiter, int limit, Outputs&... outputs) {
-  const std::size_t room = field_limit(limit);
-  const auto split = [&](FieldOutputs work) {
-    split_char_fields(text.c_str(), delimiter, work, room);
+  const auto split = [delimiter](const char* bytes, auto& fields) {
+    split_char_fields(bytes, delimiter, fields);
   };
-  split_into_strings(room, split, outputs...);
+  split_into_strings(text, limit, split, outputs...);
 }
 
 }  // namespace

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cstddef>
 #include <string>
+#include <string_view>
 
+#include "frame/fixed_buffers.h"
 #include "frame/owned_buffers.h"
 #include "scan/move_bytes.h"
 
@@ -37,13 +39,16 @@ inline void clear_fields(FieldOutputs outputs, std::size_t first) {
   for (std::size_t i = first; i < outputs.count; ++i) outputs.fields[i][0] = '\0';
 }
 
-// Writes the fields of one split, the first one first. The last output may be the text itself: by
-// then the splitter has read all that it reads.
+// Takes the fields of one split, the first one first, to byte outputs. The last output may be the
+// text itself: by then the splitter has read all that it reads.
 class FieldWriter {
  public:
   FieldWriter(FieldOutputs outputs, std::size_t limit)
       : next_(outputs.fields), end_(outputs.fields + outputs.count), limit_(limit) {}
 
+  std::size_t limit() const {
+    return limit_;
+  }
   // How many fields are still to be written.
   std::size_t left() const {
     return static_cast<std::size_t>(end_ - next_);
@@ -63,16 +68,52 @@ class FieldWriter {
   std::size_t limit_;
 };
 
-// The String form of a splitter: split(outputs) cuts into work buffers, then the outputs are
-// replaced. They keep what they held if a work buffer was refused.
+// Notes where the fields of one split stand.
+template <std::size_t count>
+class FieldPlaces {
+ public:
+  explicit FieldPlaces(std::size_t limit) : limit_(limit) {}
+
+  std::size_t limit() const {
+    return limit_;
+  }
+  std::size_t left() const {
+    return count - noted_;
+  }
+  void put(const char* from, const char* end) {
+    fields_[noted_++] = {from, std::min(static_cast<std::size_t>(end - from), limit_)};
+  }
+  void put_empty() {
+    noted_ = count;
+  }
+  std::string_view operator[](std::size_t index) const {
+    return fields_[index];
+  }
+
+ private:
+  std::string_view fields_[count];
+  std::size_t noted_ = 0;
+  std::size_t limit_;
+};
+
+// The String form of a splitter, which is split(text, sink). The interface promises a work buffer
+// for each output, with a report for each that the heap refuses, and outputs that keep what they
+// held then. The fields need these buffers only where an output is the text itself.
 template <typename Split, typename... Strings>
-void split_into_strings(std::size_t limit, Split split, Strings&... outputs) {
+void split_into_strings(const std::string& text, int limit, Split split, Strings&... outputs) {
   constexpr std::size_t count = sizeof...(Strings);
-  const WorkBuffers<count> work(limit + 1);
+  const std::size_t room = field_limit(limit);
+  const WorkBuffers<count> work(room + 1);
   if (!work.complete()) return;
-  split(FieldOutputs{work.all().data(), count});
-  const char* const* field = work.all().data();
-  ((outputs = *field++), ...);
+  FieldPlaces<count> fields(room);
+  split(text.c_str(), fields);
+  std::size_t next = 0;
+  if (((&outputs == &text) || ...)) {
+    for (std::size_t i = 0; i < count; ++i) put_text(work[i], fields[i].data(), fields[i].size());
+    ((outputs = work[next++]), ...);
+  } else {
+    ((outputs = fields[next++]), ...);
+  }
 }
 
 }  // namespace zeph

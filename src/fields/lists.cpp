@@ -2,6 +2,7 @@
 #include <cstring>
 #include <functional>
 
+#include "scan/move_bytes.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -32,10 +33,14 @@ void append_joined(const List& list, char delimiter, std::string& out) {
   if (list.empty()) return;
   std::size_t size = list.size() - 1;
   for (const std::string& item : list) size += item.size();
-  out.reserve(size);
-  for (std::size_t i = 0; i < list.size(); ++i) {
-    if (i > 0) out.push_back(delimiter);
-    if (&list[i] != &out) out.append(list[i]);
+  out.resize(size, delimiter);
+  char* to = out.data();
+  for (const std::string& item : list) {
+    if (&item != &out) {
+      move_bytes(to, item.data(), item.size());
+      to += item.size();
+    }
+    ++to;
   }
 }
 

@@ -2,7 +2,8 @@
 #include <cstring>
 
 #include "fields/field_outputs.h"
-#include "frame/fixed_buffers.h"
+#include "scan/last_byte.h"
+#include "scan/other_byte.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -13,19 +14,18 @@ namespace {
 void split_reverse(char* text, char separator, SeparatorRun run, FieldOutputs outputs) {
   const std::size_t last = outputs.count - 1;
   std::size_t end = std::strlen(text);
-  std::size_t at = end;
   std::size_t k = 0;
-  while (at > 0 && k < last) {
+  while (k < last) {
+    std::size_t at = behind_last(text, end, separator);
+    if (at == 0) break;
+    put_field(outputs.fields[k++], text + at, text + end, end);
     --at;
-    if (text[at] != separator) continue;
-    put_text(outputs.fields[k++], text + at + 1, end - at - 1);
-    while (run == SeparatorRun::one_separator && at > 0 && text[at - 1] == separator) --at;
-    end = at;
+    end = run == SeparatorRun::one_separator ? at - run_at_back(text, at, separator) : at;
   }
   if (outputs.fields[k] == text) {
     text[end] = '\0';
   } else {
-    put_text(outputs.fields[k], text, end);
+    put_field(outputs.fields[k], text, text + end, end);
   }
   clear_fields(outputs, k + 1);
 }

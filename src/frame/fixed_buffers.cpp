@@ -1,10 +1,22 @@
 #include "frame/fixed_buffers.h"
 
 #include <charconv>
-#include <climits>
 
-#include "frame/formatted_text.h"
+#include "number/real_format.h"
 #include "zeph.h"
+
+namespace zeph {
+namespace {
+
+// Writes as much of a text as a buffer of `size` bytes takes. One copy of it serves all forms.
+[[gnu::noinline]] void put_cut(char* out, const char* text, std::size_t length, int size) {
+  if (size == 0) return;
+  const std::size_t room = content_room(size);
+  put_text(out, text, length < room ? length : room);
+}
+
+}  // namespace
+}  // namespace zeph
 
 namespace Orbane {
 
@@ -16,19 +28,15 @@ bool Zeph_Copy_Stack(char* target, const char* source, int size) {
 }
 
 bool Zeph_Copy_Stack(char* target, int value, int size) {
-  if (size == 0) return true;
   char digits[sizeof "-2147483648"];
   const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-  const auto length = static_cast<std::size_t>(end - digits);
-  const std::size_t room = zeph::content_room(size);
-  zeph::put_text(target, digits, length < room ? length : room);
+  zeph::put_cut(target, digits, static_cast<std::size_t>(end - digits), size);
   return true;
 }
 
 bool Zeph_Copy_Stack(char* target, double value, int size) {
-  // The longest text, the largest double, has 317 bytes: INT_MAX is no limit to it.
-  const auto room = static_cast<std::size_t>(size < 0 ? INT_MAX : size);
-  zeph::format_bounded(target, room, "%f", value);
+  char digits[zeph::longest_real];
+  zeph::put_cut(target, digits, zeph::put_real(digits, value), size);
   return true;
 }
 

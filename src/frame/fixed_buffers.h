@@ -3,7 +3,8 @@
 #define ZEPH_FRAME_FIXED_BUFFERS_H
 
 #include <cstddef>
-#include <cstring>
+
+#include "scan/move_bytes.h"
 
 namespace zeph {
 
@@ -18,7 +19,7 @@ constexpr std::size_t content_room(int size) {
 
 // Writes the `size` bytes of `text` and a terminator to `out`. They may overlap.
 inline void put_text(char* out, const char* text, std::size_t size) {
-  std::memmove(out, text, size);
+  move_bytes(out, text, size);
   out[size] = '\0';
 }
 

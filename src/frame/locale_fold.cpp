@@ -1,6 +1,5 @@
 #include "frame/locale_fold.h"
 
-#include <cctype>
 #include <clocale>
 #include <cstring>
 
@@ -30,9 +29,10 @@ bool all_fold_as_ascii(LetterCase to) {
 #else
 
 bool all_fold_as_ascii(LetterCase to) {
+  const LocaleFold fold(to);
   for (int i = 0; i < 256; ++i) {
     const char byte = static_cast<char>(i);
-    if (locale_fold(to, byte) != ascii_fold(to, byte)) return false;
+    if (fold(byte) != ascii_fold(to, byte)) return false;
   }
   return true;
 }
@@ -46,17 +46,11 @@ bool locale_folds_ascii(LetterCase to) {
   return (name && std::strcmp(name, "C") == 0) || all_fold_as_ascii(to);
 }
 
-// The byte goes in as an unsigned one: a negative number is no valid argument with every runtime,
-// and would take 0xFF for the end of a file.
-char locale_fold(LetterCase to, char byte) {
-  const int value = static_cast<unsigned char>(byte);
-  return static_cast<char>(to == LetterCase::lower ? std::tolower(value) : std::toupper(value));
-}
-
 FoldTable locale_fold_table(LetterCase to) {
+  const LocaleFold fold(to);
   FoldTable table;
   for (int i = 0; i < 256; ++i) {
-    table.bytes[i] = static_cast<unsigned char>(locale_fold(to, static_cast<char>(i)));
+    table.bytes[i] = static_cast<unsigned char>(fold(static_cast<char>(i)));
   }
   return table;
 }

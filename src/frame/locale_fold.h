@@ -3,6 +3,8 @@
 #ifndef ZEPH_FRAME_LOCALE_FOLD_H
 #define ZEPH_FRAME_LOCALE_FOLD_H
 
+#include <cctype>
+
 #include "scan/ascii_fold.h"
 
 namespace zeph {
@@ -12,8 +14,33 @@ namespace zeph {
 // tolower() where the runtime does not show its tables: a caller asks once for a text.
 bool locale_folds_ascii(LetterCase to);
 
-// One byte in the given case, as the locale has it.
-char locale_fold(LetterCase to, char byte);
+// Bytes in the given case, one by one, as the locale has them. What can be looked up once is.
+class LocaleFold {
+ public:
+#ifdef ZEPH_HAS_CTYPE_TABLES
+  explicit LocaleFold(LetterCase to)
+      : table_(to == LetterCase::lower ? *__ctype_tolower_loc() : *__ctype_toupper_loc()) {}
+
+  char operator()(char byte) const {
+    return static_cast<char>(table_[static_cast<unsigned char>(byte)]);
+  }
+
+ private:
+  const int* table_;
+#else
+  explicit LocaleFold(LetterCase to) : to_(to) {}
+
+  // The byte goes in as an unsigned one: a negative number is no valid argument with every runtime,
+  // and would take 0xFF for the end of a file.
+  char operator()(char byte) const {
+    const int value = static_cast<unsigned char>(byte);
+    return static_cast<char>(to_ == LetterCase::lower ? std::tolower(value) : std::toupper(value));
+  }
+
+ private:
+  LetterCase to_;
+#endif
+};
 
 // The same for every byte.
 struct FoldTable {

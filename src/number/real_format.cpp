@@ -90,10 +90,11 @@ bool split_at_point(double magnitude, FixedPoint& parts) {
 
 // Writes the fixed notation of most numbers by integer arithmetic, which is exact: the product of
 // the fraction and a power of ten is the decimals in its high word, and the rest in its low one.
-bool put_fixed(char* out, double value, int decimals) {
+// Returns the place of the terminator, NULL for the other numbers.
+char* put_fixed(char* out, double value, int decimals) {
   FixedPoint parts;
   const bool negative = std::signbit(value);
-  if (!split_at_point(negative ? -value : value, parts)) return false;
+  if (!split_at_point(negative ? -value : value, parts)) return nullptr;
   const auto count = static_cast<std::size_t>(decimals);
   auto [digits, rest] = wide_product(parts.fraction, powers[count]);
   constexpr std::uint64_t half = std::uint64_t{1} << 63;
@@ -111,36 +112,40 @@ bool put_fixed(char* out, double value, int decimals) {
     out += count;
   }
   *out = '\0';
-  return true;
+  return out;
 }
 
-// The standard library's own conversion, which gives the bytes of the bounded format for every
-// finite number that fits.
-bool put_standard(char* out, double value, Format format) {
-  const auto [end, error] =
-      std::to_chars(out, out + room - 1, value, format.notation, format.decimals);
-  if (error != std::errc()) return false;
-  *end = '\0';
-  return true;
-}
-
-bool put_with_dot(char* out, double value, Format format) {
-  if (!std::isfinite(value)) return false;
-  if (format.decimals > 0 && !decimal_point_is_dot()) return false;
-  if (format.notation == std::chars_format::fixed && put_fixed(out, value, format.decimals)) {
-    return true;
+// Writes a number with '.' as its decimal point; returns as put_fixed() does. The standard
+// library's own conversion gives the bytes of the bounded format for every finite number that fits.
+char* put_with_dot(char* out, std::size_t size, double value, Format format) {
+  if (!std::isfinite(value)) return nullptr;
+  if (format.decimals > 0 && !decimal_point_is_dot()) return nullptr;
+  if (format.notation == std::chars_format::fixed) {
+    if (char* const end = put_fixed(out, value, format.decimals)) return end;
   }
-  return put_standard(out, value, format);
+  const auto [end, error] =
+      std::to_chars(out, out + size - 1, value, format.notation, format.decimals);
+  if (error != std::errc()) return nullptr;
+  *end = '\0';
+  return end;
 }
 
 }  // namespace
+
+std::size_t put_real(char (&out)[longest_real], double value) {
+  const char* const end = put_with_dot(out, sizeof out, value, {std::chars_format::fixed, 6});
+  if (end) return static_cast<std::size_t>(end - out);
+  format_bounded(out, sizeof out, "%f", value);
+  return std::strlen(out);
+}
+
 }  // namespace zeph
 
 namespace Orbane {
 
 void Zeph_Conv_Dbl_To_Str(double value, int precision, char* const out) {
   const zeph::Format format = zeph::format_of(precision);
-  if (zeph::put_with_dot(out, value, format)) return;
+  if (zeph::put_with_dot(out, zeph::room, value, format)) return;
   if (format.notation == std::chars_format::fixed) {
     zeph::format_bounded(out, zeph::room, "%.*f", format.decimals, value);
     return;

@@ -2,7 +2,16 @@
 #ifndef ZEPH_NUMBER_REAL_FORMAT_H
 #define ZEPH_NUMBER_REAL_FORMAT_H
 
+#include <cstddef>
+
 namespace zeph {
+
+// Room for any real number with six decimals: 317 bytes at most, a longer decimal point of the
+// locale not counted.
+constexpr std::size_t longest_real = 352;
+
+// Writes what the format "%f" gives, and a terminator. Returns the length.
+std::size_t put_real(char (&out)[longest_real], double value);
 
 // Takes up to two leading zeros out of an exponent of three digits, as some runtimes write it:
 // "1.5e+003" becomes "1.5e+3". An exponent of two digits stays. The text has at least 3 bytes.

@@ -6,13 +6,14 @@
 
 #include "frame/fixed_buffers.h"
 #include "frame/formatted_text.h"
+#include "number/real_format.h"
 #include "zeph.h"
 
 namespace zeph {
 namespace {
 
-// Appends `size` bytes and a terminator.
-char* append(char* text, const char* bytes, std::size_t size) {
+// Appends `size` bytes and a terminator. One copy of it serves all forms.
+[[gnu::noinline]] char* append(char* text, const char* bytes, std::size_t size) {
   put_text(text + std::strlen(text), bytes, size);
   return text;
 }
@@ -20,11 +21,13 @@ char* append(char* text, const char* bytes, std::size_t size) {
 // The printed text, cut to a buffer of `size` bytes, up to its first zero byte. Short texts are
 // printed once and take no heap but the result's; a longer one is printed again into the result.
 std::string splice(std::size_t size, const char* format, std::va_list arguments) {
-  char near[512] = "";
+  char near[2048];
   const std::size_t room = size < sizeof near ? size : sizeof near;
   const int length = format_list_bounded(near, room, format, arguments);
   const bool printed_whole = length >= 0 && static_cast<std::size_t>(length) < room;
-  if (printed_whole || room == size) return std::string(near, strnlen(near, room - 1));
+  if (printed_whole || (room == size && length >= 0)) {
+    return std::string(near, strnlen(near, room - 1));
+  }
   // A print that failed leaves what it had printed so far, as far as the room goes.
   const std::size_t whole = length < 0 ? size : static_cast<std::size_t>(length);
   std::string text(whole < size ? whole : size - 1, '\0');
@@ -57,10 +60,8 @@ char* Zeph_Cat(char* text, float value) {
 }
 
 char* Zeph_Cat(char* text, double value) {
-  // 317 bytes at most, a longer decimal point of the locale not counted.
-  char digits[352];
-  zeph::format_bounded(digits, sizeof digits, "%f", value);
-  return zeph::append(text, digits, std::strlen(digits));
+  char digits[zeph::longest_real];
+  return zeph::append(text, digits, zeph::put_real(digits, value));
 }
 
 std::string Zeph_Splicing(int size, const char* format, ...) {

@@ -32,6 +32,21 @@ inline __m128i sixteen_times(char byte) {
   return _mm_set1_epi32(static_cast<int>(four_times));
 }
 
+// 2, 4, 8 or 16 bytes and zeros behind them. Not by a copy to the vector as a whole, which goes
+// through memory as well.
+template <std::size_t size>
+__m128i load_word(const char* from) {
+  if constexpr (size == 16) {
+    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+  } else if constexpr (size == 8) {
+    return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(from));
+  } else {
+    std::uint32_t word = 0;
+    std::memcpy(&word, from, size);
+    return _mm_cvtsi32_si128(static_cast<int>(word));
+  }
+}
+
 // The places of `byte` among `size` bytes that are at least `half` and at most twice as many: in
 // the first and in the last `half`. What lies in both is set twice.
 template <std::size_t half>
@@ -42,8 +57,7 @@ std::uint64_t byte_mask_of_ends(const char* bytes, std::size_t size, char byte) 
                                                         << (size - 32);
   } else {
     const auto places = [byte](const char* from) -> std::uint64_t {
-      __m128i word = _mm_setzero_si128();
-      std::memcpy(&word, from, half);
+      const __m128i word = load_word<half>(from);
       const int equal = _mm_movemask_epi8(_mm_cmpeq_epi8(word, sixteen_times(byte)));
       return static_cast<unsigned>(equal) & ((1U << half) - 1);
     };

@@ -7,7 +7,9 @@
 #include <cstring>
 
 #include "scan/ascii_fold.h"
+#include "scan/byte_mask.h"
 #include "scan/find_pair.h"
+#include "scan/last_byte.h"
 #include "scan/two_way.h"
 #include "scan/wide.h"
 
@@ -101,12 +103,27 @@ std::size_t find_filtered(View haystack, View needle, std::size_t from, Fold fol
   }
 }
 
+// The same in a haystack that one mask covers: all places where the two ends meet at once, of which
+// there are at most 64.
+std::size_t find_in_mask(View haystack, View needle) {
+  const std::size_t count = haystack.size() - needle.size() + 1, last = needle.size() - 1;
+  std::uint64_t places = byte_mask(haystack.data(), count, needle[0]);
+  if (places != 0) places &= byte_mask(haystack.data() + last, count, needle[last]);
+  for (; places != 0; places &= places - 1) {
+    const std::size_t at = lowest_place(places);
+    if (common_front(haystack.data() + at, needle.data(), last, ExactFold()) == last) return at;
+  }
+  return View::npos;
+}
+
 }  // namespace
 
-// The runtime's search for one byte is the fastest there is: a rare first byte needs no more.
+// The runtime's search for one byte is the fastest there is: a rare first byte needs no more. In a
+// short text the call costs more than it finds.
 std::size_t find_needle(View haystack, View needle) {
   if (needle.empty()) return 0;
   if (needle.size() > haystack.size()) return View::npos;
+  if (haystack.size() <= mask_bytes) return find_in_mask(haystack, needle);
   const std::size_t count = haystack.size() - needle.size() + 1;
   const void* const first = std::memchr(haystack.data(), needle[0], count);
   if (!first) return View::npos;
@@ -121,18 +138,18 @@ std::size_t find_last_needle(View haystack, View needle) {
   if (needle.size() > haystack.size()) return View::npos;
   const std::size_t last = haystack.size() - needle.size();
   Budget budget;
-  for (std::size_t at = haystack.rfind(needle[0], last); at != View::npos;
-       at = haystack.rfind(needle[0], at - 1)) {
+  for (std::size_t left = last + 1;;) {
+    left = behind_last(haystack.data(), left, needle[0]);
+    if (left == 0) return View::npos;
+    const std::size_t at = --left;
     const std::size_t same =
         common_front(haystack.data() + at, needle.data(), needle.size(), ExactFold());
     if (same == needle.size()) return at;
-    if (at == 0) break;
     if (!budget.spent_by(same, last - at)) continue;
     const View rest = haystack.substr(0, at + needle.size() - 1);
     const std::size_t found = find_two_way(Backwards{rest}, Backwards{needle}, ExactFold());
     return found == View::npos ? found : rest.size() - needle.size() - found;
   }
-  return View::npos;
 }
 
 std::size_t find_needle_ignoring_case(View haystack, View needle) {

@@ -25,7 +25,7 @@ int to_position(std::size_t found) {
 
 // The end of a text is looked for a piece at a time, and the piece is searched while it is near: a
 // match far ahead of the end costs no walk to the end, and a long text is fetched once.
-constexpr std::size_t first_piece = 128, largest_piece = 16384, growth = 16;
+constexpr std::size_t first_piece = 64, largest_piece = 16384, growth = 64;
 
 // `find` looks for the pattern, which is `size` bytes long, in a text of known size.
 template <typename Find>
@@ -59,33 +59,37 @@ std::size_t find_in_range(const char* text, Range range, View pattern, CaseRule 
       [pattern, &table](View piece) { return find_needle_by_table(piece, pattern, table.bytes); });
 }
 
-// Patterns for the runtime's own search. Where it is a wide one, it has the shortest way through
-// the short texts that most are, since it needs no length; its cost can be that of text times
-// pattern, so that only short patterns go there.
+// Patterns for the runtime's own search, behind the front of a text. Where it is a wide one,
+// it needs no length and so passes long texts once; its cost can be that of text times pattern, so
+// that only short patterns go there.
 #ifdef ZEPH_HAS_WIDE_STRSTR
 constexpr std::size_t longest_short = 16;
 #else
 constexpr std::size_t longest_short = 1;
 #endif
 
-bool is_short(const char* pattern) {
-  std::size_t size = 1;
-  while (size <= longest_short && pattern[size] != '\0') ++size;
-  return size <= longest_short;
+int to_position(const char* text, const char* found) {
+  return found ? to_position(static_cast<std::size_t>(found - text)) : not_found;
 }
 
-int find_short(const char* text, const char* pattern) {
-  const bool one_byte = pattern[1] == '\0';
-  const char* const found = one_byte ? std::strchr(text, pattern[0]) : std::strstr(text, pattern);
-  return found ? to_position(static_cast<std::size_t>(found - text)) : not_found;
+int find_short(const char* text, View pattern) {
+  if (pattern.size() == 1) return to_position(text, std::strchr(text, pattern[0]));
+  constexpr std::size_t front = 64;
+  const std::size_t known = strnlen(text, front);
+  const std::size_t found = find_needle(View(text, known), pattern);
+  if (found != View::npos) return static_cast<int>(found);
+  if (known < front) return not_found;
+  const char* const rest = text + known - (pattern.size() - 1);
+  return to_position(text, std::strstr(rest, pattern.data()));
 }
 
 }  // namespace
 
 int find_position(const char* text, const char* pattern, CaseRule rule) {
-  if (pattern[0] == '\0') return not_found;
-  if (rule == CaseRule::exact && is_short(pattern)) return find_short(text, pattern);
-  return to_position(find_in_range(text, {0, View::npos}, pattern, rule));
+  const View wanted(pattern);
+  if (wanted.empty()) return not_found;
+  if (rule == CaseRule::exact && wanted.size() == 1) return find_short(text, wanted);
+  return to_position(find_in_range(text, {0, View::npos}, wanted, rule));
 }
 
 int find_position(const char* text, SearchSpan span, const char* pattern, CaseRule rule) {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "frame/fixed_buffers.h"
+#include "scan/last_byte.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -25,11 +26,6 @@ void assign_slice(std::string& out, const std::string& text, std::size_t start, 
   out.assign(text.data() + start, bytes_wanted(count, text.size() - start));
 }
 
-const char* last_component(const char* path, const char* end) {
-  while (end != path && end[-1] != '/' && end[-1] != '\\') --end;
-  return end;
-}
-
 }  // namespace
 }  // namespace zeph
 
@@ -38,11 +34,12 @@ namespace Orbane {
 bool Zeph_Get_SubString(const char* text, int start, int count, char* out) {
   if (start < 0) return false;
   const auto from = static_cast<std::size_t>(start);
-  if (strnlen(text, from + 1) <= from) return false;
-  text += from;
-  const std::size_t n =
-      count < 0 ? std::strlen(text) : strnlen(text, static_cast<std::size_t>(count));
-  zeph::put_text(out, text, n);
+  // Even an empty piece has to start inside the text, in front of one byte of it.
+  const auto wanted = static_cast<std::size_t>(count);
+  const std::size_t there =
+      count < 0 ? std::strlen(text) : strnlen(text, from + std::max<std::size_t>(wanted, 1));
+  if (there <= from) return false;
+  zeph::put_text(out, text + from, zeph::bytes_wanted(count, there - from));
   return true;
 }
 
@@ -73,10 +70,10 @@ void Zeph_Ext_Str_From_Str(const std::string& text, int start, int count, std::s
 }
 
 void Zeph_Ext_Name_From_FullPath(char* out, const char* path, int size) {
-  const char* const end = path + std::strlen(path);
-  const char* const name = zeph::last_component(path, end);
-  const auto length = static_cast<std::size_t>(end - name);
-  zeph::put_text(out, name, std::min(length, static_cast<std::size_t>(std::max(size, 0))));
+  const std::size_t end = std::strlen(path);
+  const std::size_t name = zeph::behind_last(path, end, '/', '\\');
+  const std::size_t room = static_cast<std::size_t>(std::max(size, 0));
+  zeph::put_text(out, path + name, std::min(end - name, room));
 }
 
 }  // namespace Orbane
