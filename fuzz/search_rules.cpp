@@ -109,6 +109,11 @@ void slices(Draw& draw) {
                : thrown ? "thrown"
                         : "refused",
                thrown || from > text.size() ? "thrown" : piece);
+  if (start < 0 || count < 0) {
+    const GuardedBuffer none(1);
+    Zeph_Ext_Str_From_Str(GuardedText(text).data(), start, count, none.data());
+    EXPECT_EQ(none.data()[0], '\0');
+  }
   if (!inside || count < 0) return;
   const GuardedBuffer out(piece.size() + 1);  // exactly what is told, no terminator read
   Zeph_Ext_Str_From_Str(GuardedText(text, End::bare).data(), start, static_cast<int>(piece.size()),

@@ -1,4 +1,4 @@
-// Written by scripts/make_codepage_table.py from data/cp936.tsv. Do not edit.
+// Written by tools/make_codepage_table.py from data/cp936.tsv. Do not edit.
 // 24070 codes decode, 24482 units encode, 412 of them one way; 414 blocks of 64 units; 120896 bytes.
 // clang-format off
 #include "codepage/codepage_table.h"

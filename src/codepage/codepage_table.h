@@ -1,4 +1,4 @@
-// Code page 936 against UTF-16 units, in both directions. scripts/make_codepage_table.py writes the
+// Code page 936 against UTF-16 units, in both directions. tools/make_codepage_table.py writes the
 // tables. A zero cell says that there is nothing to convert to; no table is asked about ASCII.
 #ifndef ZEPH_CODEPAGE_CODEPAGE_TABLE_H
 #define ZEPH_CODEPAGE_CODEPAGE_TABLE_H

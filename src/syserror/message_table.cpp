@@ -1,4 +1,4 @@
-// Made by scripts/make_message_table.py from data/system-messages.tsv. Do not edit.
+// Made by tools/make_message_table.py from data/system-messages.tsv. Do not edit.
 // 459 rows, 23431 bytes of text, codes 0 to 1398.
 #include "syserror/message_table.h"
 

@@ -66,18 +66,6 @@ void expect_as_one_by_one(Blocks blocks, Blocks portable, const Bytes& in) {
 
 }  // namespace
 
-// AESAVS, ECBMCT128: each key is the one before XOR the last of a thousand ciphers.
-TEST_P(AesPath, WalksTheMonteCarloChain) {
-  Bytes key = bytes_of("139a35422f1d61de3c91787fe0507afd", 16);
-  Bytes block = bytes_of("b9145a768b7dc489a096b546f43b231f", 16);
-  for (int i = 0; i < 100; ++i) {
-    reset_key(key);
-    for (int k = 0; k < 1000; ++k) GetParam().encrypt(block.data(), block.data(), 1);
-    for (std::size_t k = 0; k < 16; ++k) key[k] = static_cast<unsigned char>(key[k] ^ block[k]);
-  }
-  EXPECT_EQ(block, bytes_of("fb2649694783b551eacd9d5db6126d47", 16));
-}
-
 TEST_P(AesPath, GivesThePublishedAnswers) {
   each_row(aes_vectors, [](const AesVector& row) {
     reset_key(bytes_of(row.key, row.key_size));

@@ -10,11 +10,6 @@ using namespace zeph_test;
 using Orbane::Zeph_ANSI_to_UTF8;
 using Orbane::Zeph_UTF8_to_ANSI;
 
-TEST(CodePage, NullIsTheEmptyText) {
-  EXPECT_EQ(Zeph_UTF8_to_ANSI(static_cast<const char*>(nullptr)), "");
-  EXPECT_EQ(Zeph_ANSI_to_UTF8(static_cast<const char*>(nullptr)), "");
-}
-
 TEST(CodePage, EveryUnit) {
   ASSERT_EQ(code_page().bytes_of.size(), 24482u);
   std::string all;

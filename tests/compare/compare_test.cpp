@@ -19,13 +19,3 @@ TEST(Compare, StringsEndAtTheirFirstZeroByte) {
   Zeph_Trimed(blanks);
   EXPECT_EQ(blanks, std::string("b \0", 3)) << "a zero byte in a String is no blank";
 }
-
-TEST(Compare, EveryPairOfBytes) {
-  for (int i = 1; i < 256; ++i) {
-    for (int j = 1; j < 256; ++j) {
-      const char a[] = {static_cast<char>(i), '\0'}, b[] = {static_cast<char>(j), '\0'};
-      ASSERT_EQ(Zeph_Compare(a, b), i == j) << i << ' ' << j;
-      ASSERT_EQ(Zeph_Compare_L(a, b), lower(a[0]) == lower(b[0])) << i << ' ' << j;
-    }
-  }
-}

@@ -21,18 +21,6 @@ TEST(Fields, ReadingStopsWhereTheResultIsDecided) {
   EXPECT_EQ(split(3, "a " + full, 700), (Fields{"a", full, ""}));
 }
 
-TEST(Fields, LimitsBelowOneAndZeroBytes) {
-  const CharCut commas{','};
-  for (const int limit : {0, -1, INT_MIN}) {
-    for (const std::size_t count : {2u, 5u}) {
-      expect_split(blank_cut, count, "a b", limit, Fields(count));
-      expect_split(commas, count, "a,b", limit, Fields(count));
-    }
-  }
-  EXPECT_EQ(split_strings(blank_cut, 2, std::string("a b\0c", 5), 9), (Fields{"a", "b"}));
-  EXPECT_EQ(split_strings(commas, 2, std::string("a,b\0c", 5), 9), (Fields{"a", "b"}));
-}
-
 TEST(Fields, ListsThatShareTheirItems) {
   Fields own = {"a", "b", "c"}, list = {"x", "a,b,,c,d,e"};
   Zeph_Join(own, '\0', own[1]);

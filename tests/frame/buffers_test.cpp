@@ -101,23 +101,3 @@ TEST(Buffers, ARefusalEndsTheOldBlock) {
   EXPECT_EQ(capture.text().find(banner(prepare_refused)), 0u);
   EXPECT_TRUE(Zeph_Prepare_Mem(&owned.block, 5000)) << "ready to start again";
 }
-
-TEST(Buffers, CopyStackCutsAtTheRoom) {
-  const GuardedText bare("abc", End::bare);
-  char line[4];
-  EXPECT_TRUE(Zeph_Copy_Stack(line, bare.data(), 4)) << "reads no further than it writes";
-  EXPECT_STREQ(line, "abc");
-  EXPECT_TRUE(Zeph_Copy_Stack(nullptr, "a", 0));
-  EXPECT_TRUE(Zeph_Copy_Stack(line, static_cast<const char*>(nullptr), 4));
-  EXPECT_STREQ(line, "") << "NULL is the empty text";
-  const GuardedBuffer longest(318);
-  EXPECT_TRUE(Zeph_Copy_Stack(longest.data(), -DBL_MAX, -1)) << "a negative size is no limit";
-  EXPECT_EQ(std::string(longest.data()).size(), 317U);
-}
-
-TEST(Buffers, SetMemFillsWithTheLowByte) {
-  const GuardedBuffer room(3);
-  EXPECT_EQ(Zeph_Set_Mem(room.data(), 0x1C4, 2), room.data());
-  EXPECT_EQ(std::string(room.data(), 3), "\xC4\xC4\x5A");
-  EXPECT_EQ(Zeph_Set_Mem(nullptr, 1, 0), nullptr);
-}

@@ -62,26 +62,6 @@ TEST(Replace, TextsWithoutAnOccurrenceAreNotWritten) {
   EXPECT_STREQ(constant, "abcabc");
 }
 
-TEST(Enclosure, GoesByTheStoredSize) {
-  std::string zero("x\0x", 3);
-  Zeph_Remove_HeadTail(zero, 'x');
-  EXPECT_EQ(zero, std::string("\0", 1)) << "by the stored size";
-  char line[] = "(ab)";
-  Zeph_Remove_Bracket(line);
-  EXPECT_EQ(std::string(line, 5), std::string("ab\0\0\0", 5)) << "the tail is zero first";
-}
-
-TEST(Cat, NumbersTakeTheBytesThatAreNamed) {
-  char line[400] = "n";
-  EXPECT_STREQ(Zeph_Cat(line, INT_MIN), "n-2147483648");
-  line[0] = '\0';
-  EXPECT_STREQ(Zeph_Cat(line, 16777216.0F), "16777216.000000");
-  line[0] = '\0';
-  EXPECT_EQ(std::string(Zeph_Cat(line, -FLT_MAX)).size(), 47U);
-  line[0] = '\0';
-  EXPECT_EQ(std::string(Zeph_Cat(line, -DBL_MAX)).size(), 317U);
-}
-
 TEST(Splicing, SizeBoundsTheText) {
   errno = 9;
   const std::string longer(600, 'x');
@@ -97,19 +77,4 @@ TEST(Splicing, SizeBoundsTheText) {
       << "a print that fails leaves what it has";
   EXPECT_EQ(errno, 9);
   EXPECT_THROW(Zeph_Splicing(INT_MIN, "%d", 5), std::bad_alloc);
-}
-
-TEST(AlarmText, OneHalfMayFillTheResult) {
-  for (const std::size_t size : {510u, 511u, 512u, 2000u}) {
-    char text[2001] = "";
-    std::string(size, 'a').copy(text, size);
-    Zeph_Strcat_Alarm_Append_Text(text, "b");
-    EXPECT_EQ(text, (std::string(size, 'a') + " b|").substr(0, 511));
-  }
-}
-
-TEST(AlarmText, TextsMayOverlap) {
-  char same[16] = "a|b";
-  Zeph_Strcat_Alarm_Append_Text(same, same, same + 2);
-  EXPECT_STREQ(same, "a a b|b b b");
 }

@@ -11,6 +11,7 @@
 #include "scan/find_needle.h"
 #include "scan/find_pair.h"
 #include "scan/hex_pairs.h"
+#include "scan/last_byte.h"
 #include "scan/move_bytes.h"
 #include "scan/other_byte.h"
 #include "scan/wide.h"
@@ -102,6 +103,8 @@ TEST(Kernels, Runs) {
     ASSERT_EQ(zeph::run_at_front_portable(begin, size, byte), at);
     ASSERT_EQ(zeph::run_at_back(begin, size, byte), back);
     ASSERT_EQ(zeph::run_at_back_portable(begin, size, byte), back);
+    ASSERT_EQ(zeph::behind_last(begin, size, 'x', other), at < size ? at + 1 : 0);
+    ASSERT_EQ(zeph::behind_last_portable(begin, size, other, 'x'), at < size ? at + 1 : 0);
     ASSERT_EQ(zeph::find_byte_or_end(begin, other, size), begin + at);
     ASSERT_EQ(zeph::find_byte_or_end(closed.data(), other), closed.data() + at);
     ASSERT_EQ(zeph::find_byte_or_end(closed.data(), other, size + 99), closed.data() + at);
@@ -125,20 +128,6 @@ TEST(Kernels, FindByteBehindPieces) {
     }
     ASSERT_EQ(zeph::find_byte_or_end(hit.data(), 'x', size + 5000), hit.data() + size + 1);
     ASSERT_EQ(zeph::find_byte_or_end(bare.data(), 'b', size), bare.data() + size);
-  }
-}
-
-// At every distance that overlaps or touches.
-TEST(Kernels, MoveBytes) {
-  std::string pattern;
-  for (int i = 0; i < 400; ++i) pattern += static_cast<char>(i * 7 + 1);
-  for (std::size_t size = 0; size <= 130; ++size) {
-    for (std::size_t to = 0; to <= 260; ++to) {
-      std::string expected = pattern, moved = pattern;
-      expected.replace(to, size, pattern.substr(130, size));
-      zeph::move_bytes(&moved[to], &moved[130], size);
-      ASSERT_EQ(moved, expected) << size << " bytes to " << to;
-    }
   }
 }
 

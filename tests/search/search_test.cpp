@@ -8,22 +8,6 @@
 
 using namespace zeph_test;
 
-TEST(Search, UncheckedSliceTakesWhatItIsTold) {
-  const GuardedText text(std::string("ab\0def", 6), End::bare);
-  const GuardedBuffer out(5);
-  Orbane::Zeph_Ext_Str_From_Str(text.data(), 2, 4, out.data());
-  EXPECT_EQ(std::string(out.data(), 5), std::string("\0def\0", 5));
-  for (const int bad : {-1, INT_MIN}) {
-    Orbane::Zeph_Ext_Str_From_Str(text.data(), bad, 2, out.data());
-    Orbane::Zeph_Ext_Str_From_Str(text.data(), 0, bad, out.data() + 1);
-    EXPECT_EQ(std::string(out.data(), 4), std::string("\0\0ef", 4)) << bad;
-  }
-  char piece[4];
-  const GuardedText bare("hello", End::bare);
-  EXPECT_TRUE(Orbane::Zeph_Get_SubString(bare.data(), 2, 3, piece)) << "reads what it takes";
-  EXPECT_STREQ(piece, "llo");
-}
-
 // A long text is searched a piece at a time: matches at, before and across the ends of pieces.
 TEST(Search, PiecesOfLongTexts) {
   const auto expect_position = [](const std::string& text, const std::string& pattern) {

@@ -107,11 +107,3 @@ TEST(Durations, AreWhatTheFormatsGive) {
     for (const double seconds : {i * 1.0, i / 1000.0, any(random)}) expect_as_formatted(seconds);
   }
 }
-
-TEST(Durations, HaveABufferEach) {
-  const char* const whole = Orbane::Zeph_Seconds_To_Time(1.0);
-  const char* const fine = Orbane::Zeph_Seconds_To_Time2(2.5);
-  EXPECT_STREQ(whole, "00:00:01");
-  EXPECT_EQ(whole, Orbane::Zeph_Seconds_To_Time(3.0));
-  EXPECT_EQ(fine, Orbane::Zeph_Seconds_To_Time2(3.0));
-}

@@ -55,7 +55,7 @@ def starts(rows):
 def table(rows):
     index = starts(rows)
     lines = [
-        '// Made by scripts/make_message_table.py from data/system-messages.tsv. Do not edit.',
+        '// Made by tools/make_message_table.py from data/system-messages.tsv. Do not edit.',
         f'// {len(rows)} rows, {index[-1]} bytes of text, codes 0 to {HIGHEST_CODE}.',
         '#include "syserror/message_table.h"',
         '',

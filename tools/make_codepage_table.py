@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Writes src/codepage/codepage_table.cpp from data/cp936.tsv.
 
-    scripts/make_codepage_table.py           writes the file and prints what it holds
-    scripts/make_codepage_table.py --check   writes nothing; fails if the file would change
+    tools/make_codepage_table.py           writes the file and prints what it holds
+    tools/make_codepage_table.py --check   writes nothing; fails if the file would change
 
 A row of the data is: the bytes in hexadecimal, the UTF-16 unit in hexadecimal, and "both" for a
 pair that converts both ways or "encode" for a unit that has no bytes of its own and goes to those
