@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <unordered_map>
+
+#include "json.h"
 
 namespace zeph_bench {
 namespace {
@@ -54,18 +57,24 @@ void print_line(const Row& row, double zeph, const std::string& peer, double pee
               ratio < slow ? "  < 0.8" : "");
 }
 
-// Returns whether the row was timed and is below the mark.
+// Returns whether the row was timed and is below the mark. Promised requests are added to a peer.
 bool print_row(const Row& row, bool all_peers) {
-  std::vector<std::pair<double, std::string>> times;
+  std::vector<std::pair<double, std::string>> peers;
+  double zeph = 0, requests = 0;
   for (const auto& timing : row.timings()) {
-    if (!timing->rounds.empty()) times.emplace_back(median(timing->rounds), timing->who);
+    if (timing->rounds.empty()) continue;
+    const double time = median(timing->rounds);
+    if (timing->kind == Kind::zeph) zeph = time;
+    if (timing->kind == Kind::requests) requests = time;
+    if (timing->kind == Kind::peer) peers.emplace_back(time, timing->who);
   }
-  if (times.size() < 2 || times[0].second != "Zeph") return false;
-  const double zeph = times[0].first;
-  std::sort(times.begin() + 1, times.end());
-  const std::size_t shown = all_peers ? times.size() : 2;
-  for (std::size_t i = 1; i < shown; ++i) print_line(row, zeph, times[i].second, times[i].first);
-  return times[1].first / zeph < slow;
+  if (zeph == 0 || peers.empty()) return false;
+  std::sort(peers.begin(), peers.end());
+  if (!all_peers) peers.resize(1);
+  for (const auto& [time, who] : peers) {
+    print_line(row, zeph, requests > 0 ? who + " + requests" : who, time + requests);
+  }
+  return (peers[0].first + requests) / zeph < slow;
 }
 
 void print_table(bool all_peers) {
@@ -82,6 +91,42 @@ void print_table(bool all_peers) {
       "\n",
       session().rows.size(), below, slow);
   for (const std::string& remark : session().remarks) std::printf("- %s\n", remark.c_str());
+}
+
+const char* kind_name(Kind kind) {
+  const char* const names[] = {"zeph", "peer", "limit", "requests"};
+  return names[static_cast<int>(kind)];
+}
+
+// All medians, for a report that is made elsewhere.
+bool write_json(const std::string& path) {
+  JsonFile json(path);
+  if (!json.open()) return false;
+  json.begin_list("rows");
+  for (const auto& row : session().rows) {
+    json.begin_object();
+    json.put("growth", row->is_point_of_growth() ? 1 : 0);
+    json.put("family", row->family());
+    json.put("operation", row->operation());
+    json.put("input", row->input());
+    json.put("bytes", static_cast<double>(row->bytes()));
+    json.put("reason", row->reason());
+    json.begin_list("timings");
+    for (const auto& timing : row->timings()) {
+      if (timing->rounds.empty()) continue;
+      json.begin_object();
+      json.put("kind", kind_name(timing->kind));
+      json.put("who", timing->who);
+      json.put("differs", timing->differs);
+      json.put("ns", median(timing->rounds));
+      json.put("rounds", static_cast<double>(timing->rounds.size()));
+      json.end_object();
+    }
+    json.end_list();
+    json.end_object();
+  }
+  json.end_list();
+  return true;
 }
 
 }  // namespace
@@ -113,6 +158,11 @@ Row& Row::outputs(std::function<std::string()> read) {
   return *this;
 }
 
+Row& Row::point_of_growth() {
+  growth_ = true;
+  return *this;
+}
+
 Row& Row::missing_peer(const char* name) {
   const std::string remark = family_ + ": " + name + " is not in this build, its rows are left out";
   std::vector<std::string>& remarks = session().remarks;
@@ -132,9 +182,10 @@ Row& Row::note(const std::string& text) {
   return *this;
 }
 
-std::string Row::timing_name(const char* who) {
-  timings_.push_back(std::make_unique<Timing>(Timing{who, {}}));
-  std::string name = family_ + ": " + operation_ + ": " + input_ + ": " + who;
+std::string Row::add_timing(Kind kind, const char* who, const char* differs) {
+  timings_.push_back(std::make_unique<Timing>(Timing{kind, who, differs ? differs : "", {}}));
+  std::string name =
+      (growth_ ? "growth: " : "") + family_ + ": " + operation_ + ": " + input_ + ": " + who;
   if (!session().timings.emplace(name, timings_.back().get()).second) {
     std::fprintf(stderr, "two timings are named %s\n", name.c_str());
     session().wrong = true;
@@ -153,6 +204,20 @@ void Row::check(const char* who, const std::string& answer, const char* differs)
   session().wrong = true;
 }
 
+int heap_requests(std::size_t count, std::size_t size) {
+  void* blocks[8];
+  for (std::size_t i = 0; i < count; ++i) blocks[i] = std::calloc(size, 1);
+  benchmark::DoNotOptimize(blocks);
+  for (std::size_t i = 0; i < count; ++i) std::free(blocks[i]);
+  return 0;
+}
+
+std::string size_text(std::size_t size) {
+  if (size < 1024) return std::to_string(size) + " bytes";
+  if (size < 1048576) return std::to_string(size / 1024) + " KiB";
+  return std::to_string(size / 1048576) + " MiB";
+}
+
 Row& row(const char* family, std::string operation, std::string input, std::size_t bytes) {
   session().rows.push_back(
       std::make_unique<Row>(family, std::move(operation), std::move(input), bytes));
@@ -164,8 +229,9 @@ int run(const RunOptions& options, std::vector<char*> arguments) {
   // The rounds of all operations are shuffled, so that a disturbance of the machine does not fall
   // on one side of a row.
   std::string shuffle = "--benchmark_enable_random_interleaving=true";
-  std::string rounds = "--benchmark_repetitions=" + std::string(options.quick ? "3" : "11");
-  std::string round_time = "--benchmark_min_time=" + std::string(options.quick ? "0.0005" : "0.01");
+  std::string rounds = "--benchmark_repetitions=" + std::string(options.quick ? "3" : "15");
+  std::string round_time =
+      "--benchmark_min_time=" + std::string(options.quick ? "0.0002" : "0.005");
   arguments.insert(arguments.begin() + 1, {shuffle.data(), rounds.data(), round_time.data()});
   auto count = static_cast<int>(arguments.size());
   arguments.push_back(nullptr);
@@ -174,7 +240,9 @@ int run(const RunOptions& options, std::vector<char*> arguments) {
   Collector collector;
   benchmark::RunSpecifiedBenchmarks(&collector);
   print_table(options.all_peers);
-  return 0;
+  if (options.json.empty() || write_json(options.json)) return 0;
+  std::fprintf(stderr, "%s cannot be written\n", options.json.c_str());
+  return 1;
 }
 
 }  // namespace zeph_bench

@@ -26,9 +26,19 @@
 
 namespace zeph_bench {
 
+// What a timing stands for in its row.
+enum class Kind {
+  zeph,
+  peer,
+  limit,     // what the machine needs at least for as many bytes
+  requests,  // the heap requests that the operation promises, alone
+};
+
 // One timed operation and the process time of a call in nanoseconds, once for each round.
 struct Timing {
-  std::string who;  // "Zeph" or the peer's name
+  Kind kind;
+  std::string who;      // "Zeph", the peer's name, or that of the limit
+  std::string differs;  // why a peer's answer is another one by nature
   std::vector<double> rounds;
 };
 
@@ -53,7 +63,7 @@ class Row {
   template <typename Operation>
   Row& zeph(Operation operation) {
     expected_ = answer(operation);
-    return time("Zeph", std::move(operation));
+    return time(Kind::zeph, "Zeph", std::move(operation));
   }
 
   // `differs` tells why this peer's answer is another one by nature; it is printed, and the answer
@@ -61,7 +71,20 @@ class Row {
   template <typename Operation>
   Row& peer(const char* name, Operation operation, const char* differs = nullptr) {
     check(name, answer(operation), differs);
-    return time(name, std::move(operation));
+    return time(Kind::peer, name, std::move(operation), differs);
+  }
+
+  // What no implementation on this machine can do without, such as the fetching of the bytes.
+  template <typename Operation>
+  Row& limit(const char* name, Operation operation) {
+    return time(Kind::limit, name, std::move(operation));
+  }
+
+  // The heap requests that Zeph's operation has promised to make. The row is then judged against
+  // the peer and these.
+  template <typename Operation>
+  Row& requests(Operation operation) {
+    return time(Kind::requests, "requests", std::move(operation));
   }
 
   // A peer that this build does not have.
@@ -72,6 +95,12 @@ class Row {
 
   // A remark that is printed below the table.
   Row& note(const std::string& text);
+
+  // No row of the table, but a point of a curve: how the time grows with the text. Stands first.
+  Row& point_of_growth();
+  bool is_point_of_growth() const {
+    return growth_;
+  }
 
   const std::string& family() const {
     return family_;
@@ -106,16 +135,16 @@ class Row {
   }
 
   template <typename Operation>
-  Row& time(const char* who, Operation operation) {
+  Row& time(Kind kind, const char* who, Operation operation, const char* differs = nullptr) {
     const auto loop = [operation](benchmark::State& state) {
       Operation call = operation;  // a local, so that the loop has what it refers to in registers
       for (auto _ : state) benchmark::DoNotOptimize(call());
     };
-    benchmark::RegisterBenchmark(timing_name(who).c_str(), loop);
+    benchmark::RegisterBenchmark(add_timing(kind, who, differs).c_str(), loop);
     return *this;
   }
 
-  std::string timing_name(const char* who);
+  std::string add_timing(Kind kind, const char* who, const char* differs);
   void check(const char* who, const std::string& answer, const char* differs);
 
   std::string family_, operation_, input_;
@@ -123,8 +152,15 @@ class Row {
   std::function<std::string()> outputs_;
   std::string expected_;
   std::string reason_;
+  bool growth_ = false;
   std::vector<std::unique_ptr<Timing>> timings_;
 };
+
+// Asks the heap for so many zero-filled blocks, as work buffers are, and gives them back.
+int heap_requests(std::size_t count, std::size_t size);
+
+// "64 bytes", "4 KiB", "1 MiB".
+std::string size_text(std::size_t size);
 
 // A new row. `bytes` is what one call works through, for the throughput column.
 Row& row(const char* family, std::string operation, std::string input, std::size_t bytes);
@@ -142,6 +178,7 @@ Fixture& keep(Fixture fixture) {
 struct RunOptions {
   bool quick = false;      // a few rounds, to see that everything runs
   bool all_peers = false;  // a line for each peer, not only for the best one
+  std::string json;        // a file for all figures, as JSON
 };
 int run(const RunOptions& options, std::vector<char*> arguments);
 

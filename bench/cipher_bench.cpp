@@ -90,10 +90,8 @@ void add_rows(Sealing& s, const std::string& input, const unsigned char* key) {
 void register_cipher_rows() {
   unsigned char key[32] = {7, 0, 77};
   Orbane::Zeph_Encrypt_Reset_Key(sizeof key, key);
-  for (const std::size_t size : {16U, 64U, 1024U, 65536U}) {
-    add_rows(keep(Sealing(size)),
-             size < 1024 ? std::to_string(size) + " bytes" : std::to_string(size / 1024) + " KiB",
-             key);
+  for (const std::size_t size : {16U, 64U, 1024U, 65536U, 1048576U}) {
+    add_rows(keep(Sealing(size)), size_text(size), key);
   }
 }
 

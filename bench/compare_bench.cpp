@@ -5,6 +5,13 @@
 #include <cstring>
 #include <string>
 
+#if ZEPH_BENCH_HAS_ABSEIL
+#include <absl/strings/match.h>
+#endif
+#if ZEPH_BENCH_HAS_BOOST
+#include <boost/algorithm/string/predicate.hpp>
+#endif
+
 #include "bench.h"
 #include "zeph.h"
 
@@ -35,14 +42,11 @@ Pair make_pair(std::size_t size, bool fold) {
   return pair;
 }
 
-std::string size_text(std::size_t size) {
-  return size < 1024 ? std::to_string(size) + " bytes" : std::to_string(size / 1024) + " KiB";
-}
-
 void add_exact_rows(Pair& t, const std::string& input) {
   row("compare", "Zeph_Compare", input, t.a.size())
       .zeph([&t] { return Orbane::Zeph_Compare(t.a_bytes, t.b_bytes); })
       .peer("strcmp", [&t] { return std::strcmp(t.a_bytes, t.b_bytes) == 0; })
+      .limit("memcmp", [&t] { return std::memcmp(t.a_bytes, t.b_bytes, t.a.size()); })
       .reason("it is the same comparison and one call more, into the shared object");
   row("compare", "Zeph_Compare String", input, t.a.size())
       .zeph([&t] { return Orbane::Zeph_Compare(t.a, t.b); })
@@ -51,25 +55,41 @@ void add_exact_rows(Pair& t, const std::string& input) {
       .reason("one call more than strcmp; == knows the sizes, Zeph's texts end at a zero byte");
   row("compare", "Zeph_Compare n", input, t.a.size())
       .zeph([&t] { return Orbane::Zeph_Compare(t.a_bytes, t.b_bytes, t.n); })
-      .peer("strncmp", [&t] {
-        return std::strncmp(t.a_bytes, t.b_bytes, static_cast<std::size_t>(t.n)) == 0;
-      });
+      .peer("strncmp",
+            [&t] { return std::strncmp(t.a_bytes, t.b_bytes, static_cast<std::size_t>(t.n)) == 0; })
+      .reason("it is the same comparison and one call more, into the shared object");
 }
 
 void add_fold_rows(Pair& t, const std::string& input) {
   row("compare", "Zeph_Compare_L", input, t.a.size())
       .zeph([&t] { return Orbane::Zeph_Compare_L(t.a_bytes, t.b_bytes); })
-      .peer("strcasecmp", [&t] { return strcasecmp(t.a_bytes, t.b_bytes) == 0; });
+      .peer("strcasecmp", [&t] { return strcasecmp(t.a_bytes, t.b_bytes) == 0; })
+      .reason("it is the same comparison and one call more, into the shared object");
+  auto& strings = row("compare", "Zeph_Compare_L String", input, t.a.size());
+  strings.zeph([&t] { return Orbane::Zeph_Compare_L(t.a, t.b); })
+      .peer("strcasecmp of c_str", [&t] { return strcasecmp(t.a.c_str(), t.b.c_str()) == 0; })
+      .reason("it is the same comparison and one call more, into the shared object");
+#if ZEPH_BENCH_HAS_ABSEIL
+  strings.peer("absl::EqualsIgnoreCase", [&t] { return absl::EqualsIgnoreCase(t.a, t.b); });
+#else
+  strings.missing_peer("abseil");
+#endif
+#if ZEPH_BENCH_HAS_BOOST
+  strings.peer("boost::iequals", [&t] { return boost::iequals(t.a, t.b); });
+#else
+  strings.missing_peer("Boost");
+#endif
   row("compare", "Zeph_Compare_L n", input, t.a.size())
       .zeph([&t] { return Orbane::Zeph_Compare_L(t.a_bytes, t.b_bytes, t.n); })
       .peer("strncasecmp",
-            [&t] { return strncasecmp(t.a_bytes, t.b_bytes, static_cast<std::size_t>(t.n)) == 0; });
+            [&t] { return strncasecmp(t.a_bytes, t.b_bytes, static_cast<std::size_t>(t.n)) == 0; })
+      .reason("it is the same comparison and one call more, into the shared object");
 }
 
 }  // namespace
 
 void register_compare_rows() {
-  for (const std::size_t size : {16U, 64U, 4096U}) {
+  for (const std::size_t size : {8U, 32U, 64U, 4096U}) {
     add_exact_rows(keep(make_pair(size, false)), size_text(size) + ", equal");
     add_fold_rows(keep(make_pair(size, true)), size_text(size) + ", other case");
   }

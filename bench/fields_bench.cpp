@@ -7,6 +7,10 @@
 #include <string>
 #include <vector>
 
+#if ZEPH_BENCH_HAS_ABSEIL
+#include <absl/strings/str_split.h>
+#endif
+
 #include "bench.h"
 #include "zeph.h"
 
@@ -103,18 +107,6 @@ template <std::size_t count>
   return 0;
 }
 
-// With the zero-filled blocks that the String forms promise to ask the heap for, and nothing else
-// done with them: what is left between this and Zeph is Zeph's own.
-template <std::size_t count>
-[[gnu::noinline]] int cut_by_find_beside_blocks(const Cut& c, std::string* outs) {
-  void* blocks[count];
-  for (void*& block : blocks) block = std::calloc(static_cast<std::size_t>(c.limit) + 1, 1);
-  benchmark::DoNotOptimize(blocks);
-  cut_by_find<count>(c.text, c.separator, outs);
-  for (void* block : blocks) std::free(block);
-  return 0;
-}
-
 template <std::size_t count>
 [[gnu::noinline]] int cut_by_substr(const std::string& text, char separator, std::string* outs) {
   std::size_t from = 0;
@@ -191,11 +183,11 @@ void add_byte_rows(Cut& c, const std::string& input) {
 
 template <std::size_t count>
 void add_string_rows(Cut& c, const std::string& input) {
-  row("fields",
-      std::string(c.separator == ' ' ? "Zeph_Seperate" : "Zeph_Seperate_Char") + " String " +
-          std::to_string(count),
-      input, c.text.size())
-      .outputs([&c] { return c.take_strings(count); })
+  auto& strings = row("fields",
+                      std::string(c.separator == ' ' ? "Zeph_Seperate" : "Zeph_Seperate_Char") +
+                          " String " + std::to_string(count),
+                      input, c.text.size());
+  strings.outputs([&c] { return c.take_strings(count); })
       .zeph([&c] {
         return with_outputs<count>(c.strings, [&](auto&... o) {
           if (c.separator == ' ') {
@@ -206,11 +198,22 @@ void add_string_rows(Cut& c, const std::string& input) {
         });
       })
       .peer("find + assign", [&c] { return cut_by_find<count>(c.text, c.separator, c.strings); })
-      .peer("find + assign, work buffers",
-            [&c] { return cut_by_find_beside_blocks<count>(c, c.strings); })
       .peer("find + substr", [&c] { return cut_by_substr<count>(c.text, c.separator, c.strings); })
       .peer("getline", [&c] { return cut_by_getline<count>(c.text, c.separator, c.strings); })
-      .reason("it asks the heap for zero-filled work buffers of limit + 1 bytes, as promised");
+      .requests([&c] { return heap_requests(count, static_cast<std::size_t>(c.limit) + 1); });
+#if ZEPH_BENCH_HAS_ABSEIL
+  if (c.separator == ' ') return;  // words have no peer there that skips runs in the middle alone
+  strings.peer("absl::StrSplit", [&c] {
+    std::size_t i = 0;
+    for (const absl::string_view field :
+         absl::StrSplit(c.text, absl::MaxSplits(c.separator, count - 1))) {
+      c.strings[i++].assign(field.data(), field.size());
+    }
+    return 0;
+  });
+#else
+  strings.missing_peer("abseil");
+#endif
 }
 
 // Five fields of the given lengths.

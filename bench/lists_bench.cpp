@@ -5,6 +5,15 @@
 #include <string_view>
 #include <vector>
 
+#if ZEPH_BENCH_HAS_ABSEIL
+#include <absl/strings/str_join.h>
+#include <absl/strings/str_split.h>
+#endif
+#if ZEPH_BENCH_HAS_BOOST
+#include <boost/algorithm/string/join.hpp>
+#include <boost/algorithm/string/split.hpp>
+#endif
+
 #include "bench.h"
 #include "zeph.h"
 
@@ -57,25 +66,56 @@ int index_by_strtok(const std::string& text, const char* value) {
   return -1;
 }
 
+int index_by_walk(const char* text, const std::string& value) {
+  for (int index = 0;; ++index) {
+    const char* const end = strchrnul(text, ',');
+    const auto size = static_cast<std::size_t>(end - text);
+    if (size == value.size() && std::memcmp(text, value.data(), size) == 0) return index;
+    if (*end == '\0') return -1;
+    text = end + 1;
+  }
+}
+
 void add_list_rows(std::size_t items) {
   const std::string& text = keep(list_of(items));
   const List& list = keep(split_by_find(text));
   const std::string& last = keep(std::string(list.back()));
   const std::string input = std::to_string(items) + " items";
-  row("lists", "Zeph_Split", input, text.size())
+  auto& split = row("lists", "Zeph_Split", input, text.size());
+  auto& join = row("lists", "Zeph_Join", input, text.size());
+  split
       .zeph([&] {
-        List split;
-        Orbane::Zeph_Split(text, ',', split);
-        return split;
+        List items;
+        Orbane::Zeph_Split(text, ',', items);
+        return items;
       })
       .peer("getline", [&] { return split_by_getline(text); })
       .peer("find + substr", [&] { return split_by_find(text); });
-  row("lists", "Zeph_Join", input, text.size())
-      .zeph([&] { return Orbane::Zeph_Join(list, ','); })
-      .peer("append loop", [&] { return join_by_append(list); });
+  join.zeph([&] { return Orbane::Zeph_Join(list, ','); }).peer("append loop", [&] {
+    return join_by_append(list);
+  });
+#if ZEPH_BENCH_HAS_ABSEIL
+  split.peer("absl::StrSplit", [&] { return List(absl::StrSplit(text, ',', absl::SkipEmpty())); });
+  join.peer("absl::StrJoin", [&] { return absl::StrJoin(list, ","); });
+#else
+  split.missing_peer("abseil");
+#endif
+#if ZEPH_BENCH_HAS_BOOST
+  split.peer("boost::split", [&] {
+    List items;
+    boost::split(
+        items, text, [](char byte) { return byte == ','; }, boost::token_compress_on);
+    return items;
+  });
+  join.peer("boost::join", [&] { return boost::join(list, ","); });
+#else
+  split.missing_peer("Boost");
+#endif
   row("lists", "Zeph_Seperate_Char_Get_Index", input + ", last", text.size())
       .zeph([&] { return Orbane::Zeph_Seperate_Char_Get_Index(text.c_str(), ',', last.c_str()); })
-      .peer("strsep loop", [&] { return index_by_strtok(text, last.c_str()); });
+      .peer("strsep loop", [&] { return index_by_strtok(text, last.c_str()); })
+      .peer("strchrnul walk", [&] { return index_by_walk(text.c_str(), last); })
+      .requests([&] { return heap_requests(2, text.size() + 1); });
 }
 
 void add_reverse_row(std::size_t size) {
@@ -101,7 +141,7 @@ void add_reverse_row(std::size_t size) {
 
 void register_lists_rows() {
   for (const std::size_t items : {10U, 100U, 10000U}) add_list_rows(items);
-  for (const std::size_t size : {16U, 64U, 4096U}) add_reverse_row(size);
+  for (const std::size_t size : {16U, 64U, 4096U, 65536U}) add_reverse_row(size);
 }
 
 }  // namespace zeph_bench

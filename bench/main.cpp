@@ -1,4 +1,5 @@
-// zeph_bench [--quick] [--all-peers] [--family=NAME] [Google Benchmark's options]
+// zeph_bench [--quick] [--all-peers] [--family=NAME] [--threads] [--json=FILE] [Google Benchmark's
+// options]
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -11,14 +12,19 @@ namespace zeph_bench {
 void register_cipher_rows();
 void register_codepage_rows();
 void register_compare_rows();
+void register_compose_rows();
 void register_fields_rows();
+void register_growth_rows();
 void register_lists_rows();
 void register_normalise_rows();
 void register_number_rows();
 void register_rewrite_rows();
 void register_search_rows();
+void register_slices_rows();
 void register_syserror_rows();
 void register_time_rows();
+
+int run_threads(const RunOptions& options);
 
 namespace {
 
@@ -28,12 +34,13 @@ struct Family {
 };
 
 constexpr Family families[] = {
-    {"cipher", register_cipher_rows},   {"codepage", register_codepage_rows},
-    {"compare", register_compare_rows}, {"fields", register_fields_rows},
-    {"lists", register_lists_rows},     {"normalise", register_normalise_rows},
-    {"number", register_number_rows},   {"rewrite", register_rewrite_rows},
-    {"search", register_search_rows},   {"syserror", register_syserror_rows},
-    {"time", register_time_rows},
+    {"cipher", register_cipher_rows},     {"codepage", register_codepage_rows},
+    {"compare", register_compare_rows},   {"compose", register_compose_rows},
+    {"fields", register_fields_rows},     {"growth", register_growth_rows},
+    {"lists", register_lists_rows},       {"normalise", register_normalise_rows},
+    {"number", register_number_rows},     {"rewrite", register_rewrite_rows},
+    {"search", register_search_rows},     {"slices", register_slices_rows},
+    {"syserror", register_syserror_rows}, {"time", register_time_rows},
 };
 
 bool register_family(std::string_view name) {
@@ -55,14 +62,18 @@ int main(int argc, char** argv) {
   using zeph_bench::families;
   zeph_bench::RunOptions options;
   std::vector<char*> others(argv, argv + 1);
-  bool chosen = false;
+  bool chosen = false, threads = false;
   for (int i = 1; i < argc; ++i) {
-    constexpr std::string_view family = "--family=";
+    constexpr std::string_view family = "--family=", json = "--json=";
     const std::string_view argument = argv[i];
     if (argument == "--quick") {
       options.quick = true;
     } else if (argument == "--all-peers") {
       options.all_peers = true;
+    } else if (argument == "--threads") {
+      threads = true;
+    } else if (argument.substr(0, json.size()) == json) {
+      options.json = argument.substr(json.size());
     } else if (argument.substr(0, family.size()) == family) {
       if (!zeph_bench::register_family(argument.substr(family.size()))) return 1;
       chosen = true;
@@ -70,6 +81,7 @@ int main(int argc, char** argv) {
       others.push_back(argv[i]);
     }
   }
+  if (threads) return zeph_bench::run_threads(options);
   if (!chosen) {
     for (const auto& family : families) family.register_rows();
   }

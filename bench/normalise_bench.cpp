@@ -4,6 +4,14 @@
 #include <cstring>
 #include <string>
 
+#if ZEPH_BENCH_HAS_ABSEIL
+#include <absl/strings/ascii.h>
+#endif
+#if ZEPH_BENCH_HAS_BOOST
+#include <boost/algorithm/string/case_conv.hpp>
+#include <boost/algorithm/string/trim.hpp>
+#endif
+
 #include "bench.h"
 #include "zeph.h"
 
@@ -19,10 +27,6 @@ std::string prose(std::size_t size) {
   while (text.size() < size) text += "Chamber Pressure 0.75 mTorr; ";
   text.resize(size);
   return text;
-}
-
-std::string size_text(std::size_t size) {
-  return size < 1024 ? std::to_string(size) + " bytes" : std::to_string(size / 1024) + " KiB";
 }
 
 // ---- the peers ----
@@ -77,7 +81,30 @@ void add_fold_rows(std::size_t size) {
       .outputs(read)
       .zeph([from, to] { return Orbane::Zeph_Lower(from, to), 0; })
       .peer("ASCII loop", [from, to] { return lower_by_wide_loop(from, to); })
-      .peer("tolower loop", [from, to] { return lower_by_tolower(from, to); });
+      .peer("tolower loop", [from, to] { return lower_by_tolower(from, to); })
+      .limit("memcpy", [from, to, size] { return std::memcpy(to, from, size) != nullptr; });
+  Text& s = keep(Text{prose(size), std::string(size, '#')});
+  auto& strings = row("normalise", "copy, Zeph_Upper String", size_text(size), size);
+  strings.outputs([&s] { return s.room; })
+      .zeph([&s] { return s.room.assign(s.source), Orbane::Zeph_Upper(s.room), 0; })
+      .peer("toupper loop", [&s] {
+        s.room.assign(s.source);
+        for (char& byte : s.room)
+          byte = static_cast<char>(std::toupper(static_cast<unsigned char>(byte)));
+        return 0;
+      });
+#if ZEPH_BENCH_HAS_ABSEIL
+  strings.peer("absl::AsciiStrToUpper",
+               [&s] { return s.room.assign(s.source), absl::AsciiStrToUpper(&s.room), 0; });
+#else
+  strings.missing_peer("abseil");
+#endif
+#if ZEPH_BENCH_HAS_BOOST
+  strings.peer("boost::to_upper",
+               [&s] { return s.room.assign(s.source), boost::to_upper(s.room), 0; });
+#else
+  strings.missing_peer("Boost");
+#endif
 }
 
 // Each call trims a fresh copy: the copy is part of every figure.
@@ -94,17 +121,27 @@ void add_trim_rows(const std::string& text, const std::string& input) {
       .zeph([fresh] { return Orbane::Zeph_Trimed(fresh()), 0; })
       .peer("loops and memmove", [fresh] { return trim_by_loop(fresh()); });
   Text& s = keep(Text{text, text});
-  row("normalise", "copy, Zeph_Trimed String", input, text.size())
-      .outputs([&s] { return s.room; })
+  auto& strings = row("normalise", "copy, Zeph_Trimed String", input, text.size());
+  strings.outputs([&s] { return s.room; })
       .zeph([&s] { return s.room.assign(s.source), Orbane::Zeph_Trimed(s.room), 0; })
       .peer("find_..._not_of, erase",
             [&s] { return s.room.assign(s.source), trim_by_find(s.room); });
+#if ZEPH_BENCH_HAS_ABSEIL
+  strings.peer("absl::StripAsciiWhitespace",
+               [&s] { return s.room.assign(s.source), absl::StripAsciiWhitespace(&s.room), 0; });
+#endif
+#if ZEPH_BENCH_HAS_BOOST
+  strings.peer("boost::trim_if", [&s] {
+    return s.room.assign(s.source), boost::trim_if(s.room, [](char byte) { return byte == ' '; }),
+           0;
+  });
+#endif
 }
 
 }  // namespace
 
 void register_normalise_rows() {
-  for (const std::size_t size : {8U, 16U, 64U, 4096U}) add_fold_rows(size);
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) add_fold_rows(size);
   const std::string blanks(524288, ' ');
   add_trim_rows("Chamber Pressure", "16 bytes, no blanks");
   add_trim_rows("   Chamber Pressure 0.75 mTorr    ", "34 bytes, 3 and 4 blanks");

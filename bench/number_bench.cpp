@@ -13,6 +13,12 @@
 #include "bench.h"
 #include "zeph.h"
 
+#if ZEPH_BENCH_HAS_ABSEIL
+#include <absl/strings/numbers.h>
+#endif
+#if ZEPH_BENCH_HAS_FMT
+#include <fmt/format.h>
+#endif
 #if ZEPH_BENCH_HAS_FAST_FLOAT
 #include <fast_float/fast_float.h>
 #endif
@@ -67,16 +73,27 @@ void add_integer_rows(const Batch& batch, const std::string& input) {
     Orbane::Zeph_To_Int(text.c_str(), &value);
     return static_cast<long>(value);
   };
-  row("number", "Zeph_To_Int", input, total_size(batch))
-      .zeph(sum_of(batch, zeph))
+  auto& integers = row("number", "Zeph_To_Int", input, total_size(batch));
+  integers.zeph(sum_of(batch, zeph))
       .peer("strtol",
             sum_of(batch,
                    [](const std::string& text) { return std::strtol(text.c_str(), nullptr, 10); }))
-      .peer("std::from_chars, length known", sum_of(batch, [](const std::string& text) {
-              int value = 0;
-              std::from_chars(text.data(), end_of(text), value);
-              return static_cast<long>(value);
-            }));
+      .peer("std::from_chars, length known", sum_of(batch,
+                                                    [](const std::string& text) {
+                                                      int value = 0;
+                                                      std::from_chars(text.data(), end_of(text),
+                                                                      value);
+                                                      return static_cast<long>(value);
+                                                    }))
+      .reason("the length is known to the peer, which is inlined; Zeph reads to the zero byte");
+#if ZEPH_BENCH_HAS_ABSEIL
+  integers.peer("absl::SimpleAtoi", sum_of(batch, [](const std::string& text) {
+                  int value = 0;
+                  return absl::SimpleAtoi(text, &value) ? static_cast<long>(value) : -1L;
+                }));
+#else
+  integers.missing_peer("abseil");
+#endif
   row("number", "Zeph_To_Int slice", input, total_size(batch))
       .zeph(sum_of(batch,
                    [](const std::string& text) {
@@ -87,7 +104,10 @@ void add_integer_rows(const Batch& batch, const std::string& input) {
       .peer("substr, stol",
             sum_of(batch,
                    [](const std::string& text) { return std::stol(text.substr(0, text.size())); }))
-      .note("Zeph's slice takes a work buffer from the heap; a short substr takes none");
+      .requests([&batch] {
+        for (const std::string& text : batch.texts) heap_requests(1, text.size() + 1);
+        return 0;
+      });
   row("number", "Zeph_Ext_Int_From_Str", input, total_size(batch))
       .zeph(sum_of(batch,
                    [](const std::string& text) {
@@ -139,7 +159,13 @@ void add_real_rows(const Batch& batch, const std::string& input) {
 #else
   reals.missing_peer("fast_float");
 #endif
-  reals.note(
+#if ZEPH_BENCH_HAS_ABSEIL
+  reals.peer("absl::SimpleAtod", sum_of(batch, [](const std::string& text) {
+               double value = 0;
+               return absl::SimpleAtod(text, &value) ? value : -1;
+             }));
+#endif
+  reals.reason(
       "Zeph finds the end of the text and asks for the locale; the peers know both beforehand");
 }
 
@@ -159,7 +185,9 @@ void add_format_rows(const Batch& batch, const std::string& input, int code) {
       return 0;
     };
   };
-  row("number", "Zeph_Conv_Dbl_To_Str " + std::to_string(code), input, total_size(batch))
+  auto& texts =
+      row("number", "Zeph_Conv_Dbl_To_Str " + std::to_string(code), input, total_size(batch));
+  texts
       .outputs([&out] {
         const std::string text = out.text;
         out.text[0] = '\0';
@@ -174,6 +202,14 @@ void add_format_rows(const Batch& batch, const std::string& input, int code) {
               char* const end = out.text + sizeof out.text;
               *std::to_chars(out.text, end, value, notation, decimals).ptr = '\0';
             }));
+#if ZEPH_BENCH_HAS_FMT
+  texts.peer("fmt::format_to", each([&out, fixed, decimals](double value) {
+               *(fixed ? fmt::format_to(out.text, "{:.{}f}", value, decimals)
+                       : fmt::format_to(out.text, "{:.{}e}", value, decimals)) = '\0';
+             }));
+#else
+  texts.missing_peer("fmt");
+#endif
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // Replacing, removing, composing and dumping against what a user would write instead.
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <regex>
@@ -8,6 +9,20 @@
 #include "bench.h"
 #include "zeph.h"
 
+#if ZEPH_BENCH_HAS_ABSEIL
+#include <absl/strings/str_replace.h>
+#endif
+#if ZEPH_BENCH_HAS_BOOST
+#include <boost/algorithm/string/erase.hpp>
+#include <boost/algorithm/string/replace.hpp>
+#endif
+#if ZEPH_BENCH_HAS_FMT
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+#endif
+#if ZEPH_BENCH_HAS_OPENSSL
+#include <openssl/crypto.h>
+#endif
 #if ZEPH_BENCH_HAS_RE2
 #include <re2/re2.h>
 #endif
@@ -20,10 +35,6 @@ std::string repeat(std::string_view piece, std::size_t size) {
   while (text.size() < size) text += piece;
   text.resize(size);
   return text;
-}
-
-std::string size_text(std::size_t size) {
-  return size < 1024 ? std::to_string(size) + " bytes" : std::to_string(size / 1024) + " KiB";
 }
 
 // One pass that goes on behind a replacement: what the careful user writes, in place of the
@@ -54,13 +65,39 @@ void add_replace_rows(std::size_t size) {
   const std::string& pairs = keep(repeat("ab", size));
   const std::string& nested = keep(std::string(size / 2, 'a') + std::string(size / 2, 'b'));
   std::string& work = keep(std::string());
-  row("rewrite", "Zeph_Replace byte text, ab -> c", size_text(size) + " abab..", size)
+  auto& replace =
+      row("rewrite", "Zeph_Replace byte text, ab -> c", size_text(size) + " abab..", size);
+  replace
       .zeph([&] {
         work = pairs;
         Orbane::Zeph_Replace(work.data(), "ab", "c");
         return std::string(work.c_str());
       })
       .peer("find + append", [&] { return replace_by_append(pairs, "ab", "c"); });
+  auto& string = row("rewrite", "Zeph_Replace String, ab -> c", size_text(size) + " abab..", size);
+  string
+      .zeph([&] {
+        work = pairs;
+        Orbane::Zeph_Replace(work, std::string("ab"), std::string("c"));
+        return work;
+      })
+      .peer("find + append", [&] { return replace_by_append(pairs, "ab", "c"); });
+#if ZEPH_BENCH_HAS_ABSEIL
+  for (Row* each : {&replace, &string}) {
+    each->peer("absl::StrReplaceAll", [&] { return absl::StrReplaceAll(pairs, {{"ab", "c"}}); });
+  }
+#else
+  replace.missing_peer("abseil");
+#endif
+#if ZEPH_BENCH_HAS_BOOST
+  string.peer("boost::replace_all", [&] {
+    work = pairs;
+    boost::replace_all(work, "ab", "c");
+    return work;
+  });
+#else
+  replace.missing_peer("Boost");
+#endif
   row("rewrite", "Zeph_Remove, ab", size_text(size) + " aa..bb..", size)
       .zeph([&] {
         work = nested;
@@ -68,13 +105,28 @@ void add_replace_rows(std::size_t size) {
         return work;
       })
       .peer("stack of bytes", [&] { return remove_by_stack(nested, "ab"); });
+  row("rewrite", "Zeph_Replace a byte", size_text(size) + " abab..", size)
+      .zeph([&] {
+        work = pairs;
+        Orbane::Zeph_Replace(work, 'b', 'c');
+        return std::string_view(work);
+      })
+      .peer("std::replace", [&] {
+        work = pairs;
+        std::replace(work.begin(), work.end(), 'b', 'c');
+        return std::string_view(work);
+      });
   row("rewrite", "Zeph_Remove a byte", size_text(size) + " abab..", size)
       .zeph([&] {
         work = pairs;
         Orbane::Zeph_Remove(work, 'b');
         return work;
       })
-      .peer("find + append", [&] { return replace_by_append(pairs, "b", ""); });
+      .peer("std::remove", [&] {
+        work = pairs;
+        work.erase(std::remove(work.begin(), work.end(), 'b'), work.end());
+        return work;
+      });
 }
 
 std::string dump_by_digits(const std::string& bytes) {
@@ -101,13 +153,34 @@ void add_dump_row(std::size_t size) {
   std::string& bytes = keep(std::string());
   for (std::size_t i = 0; i < size; ++i) bytes.push_back(static_cast<char>(i * 37));
   char*& block = keep(static_cast<char*>(nullptr));
-  row("rewrite", "Zeph_To_Ascii to a buffer", size_text(size), size)
-      .zeph([&] {
+  std::string& room = keep(std::string(3 * size + 1, '\0'));
+  auto& dump = row("rewrite", "Zeph_To_Ascii to a buffer", size_text(size), size);
+  dump.zeph([&] {
         return std::string_view(
             Orbane::Zeph_To_Ascii(bytes.data(), static_cast<int>(bytes.size()), &block));
       })
       .peer("byte loop", [&] { return dump_by_digits(bytes); })
       .peer("snprintf", [&] { return dump_by_snprintf(bytes); });
+#if ZEPH_BENCH_HAS_OPENSSL
+  dump.peer("OPENSSL_buf2hexstr_ex", [&bytes, &room] {
+    std::size_t length = 0;
+    OPENSSL_buf2hexstr_ex(room.data(), room.size(), &length,
+                          reinterpret_cast<const unsigned char*>(bytes.data()),
+                          static_cast<long>(bytes.size()), ' ');
+    return std::string_view(room.c_str());
+  });
+#else
+  static_cast<void>(room);
+  dump.missing_peer("OpenSSL");
+#endif
+#if ZEPH_BENCH_HAS_FMT
+  dump.peer("fmt::format", [&bytes] {
+    const auto* const from = reinterpret_cast<const unsigned char*>(bytes.data());
+    return fmt::format("{:02X}", fmt::join(from, from + bytes.size(), " "));
+  });
+#else
+  dump.missing_peer("fmt");
+#endif
 }
 
 struct AlarmRow {
@@ -147,6 +220,7 @@ void add_name_row(const char* name) {
     return re2::RE2::FullMatch(name, pattern, &stream, &function) ? stream * 256 + function : -1;
   });
 #endif
+  names.requests([] { return heap_requests(1, 8) + heap_requests(1, 8); });
   names.peer("std::regex", [name] {
     std::cmatch match;
     if (!std::regex_match(name, match, standard)) return -1;
@@ -158,7 +232,7 @@ void add_name_row(const char* name) {
 
 void register_rewrite_rows() {
   for (const std::size_t size : {64U, 1024U, 1048576U}) add_replace_rows(size);
-  for (const std::size_t size : {16U, 64U, 4096U}) add_dump_row(size);
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U}) add_dump_row(size);
   add_alarm_row();
   add_name_row("S6F11");
   add_name_row("S127F255");

@@ -4,6 +4,10 @@
 #include <string>
 #include <string_view>
 
+#if ZEPH_BENCH_HAS_BOOST
+#include <boost/algorithm/string/find.hpp>
+#endif
+
 #include "bench.h"
 #include "zeph.h"
 
@@ -19,12 +23,6 @@ std::string prose(std::size_t size) {
   while (text.size() < size) text += "Chamber Pressure 0.75 mTorr; ";
   text.resize(size);
   return text;
-}
-
-std::string size_text(std::size_t size) {
-  if (size < 1024) return std::to_string(size) + " bytes";
-  return size < 1048576 ? std::to_string(size / 1024) + " KiB"
-                        : std::to_string(size / 1048576) + " MiB";
 }
 
 int place(const char* text, const char* found) {
@@ -48,11 +46,25 @@ void add_rows(Search search, const std::string& input) {
       .peer("strstr",
             [&s] { return place(s.text.c_str(), strstr(s.text.c_str(), s.pattern.c_str())); })
       .peer("string_view::find", [&s] { return find_by_view(s.text.c_str(), s.pattern.c_str()); })
-      .peer("memmem", [&s] { return find_by_memmem(s.text.c_str(), s.pattern.c_str()); });
-  row("search", "Zeph_Find_Position_L", input, s.text.size())
-      .zeph([&s] { return Orbane::Zeph_Find_Position_L(s.text.c_str(), s.pattern.c_str()); })
+      .peer("memmem", [&s] { return find_by_memmem(s.text.c_str(), s.pattern.c_str()); })
+      .limit("memchr",
+             [&s] { return std::memchr(s.text.data(), '\0', s.text.size() + 1) != nullptr; });
+  auto& folded = row("search", "Zeph_Find_Position_L", input, s.text.size());
+  folded.zeph([&s] { return Orbane::Zeph_Find_Position_L(s.text.c_str(), s.pattern.c_str()); })
       .peer("strcasestr",
-            [&s] { return place(s.text.c_str(), strcasestr(s.text.c_str(), s.pattern.c_str())); });
+            [&s] { return place(s.text.c_str(), strcasestr(s.text.c_str(), s.pattern.c_str())); })
+      .limit("memchr",
+             [&s] { return std::memchr(s.text.data(), '\0', s.text.size() + 1) != nullptr; });
+#if ZEPH_BENCH_HAS_BOOST
+  // Its locale test for each byte takes minutes of rounds for longer texts, and tells no more.
+  if (s.text.size() > 4096) return;
+  folded.peer("boost::ifind_first", [&s] {
+    const auto found = boost::ifind_first(s.text, s.pattern);
+    return found.empty() ? -1 : static_cast<int>(found.begin() - s.text.begin());
+  });
+#else
+  folded.missing_peer("Boost");
+#endif
 }
 
 void add_adversarial_rows(std::size_t size) {
@@ -73,7 +85,7 @@ void add_adversarial_rows(std::size_t size) {
 
 void register_search_rows() {
   add_rows({"S1F13", "F"}, "5 bytes, F");
-  for (const std::size_t size : {16U, 64U, 4096U, 1048576U}) {
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
     const std::string text = prose(size), name = size_text(size);
     std::string alarm = text;
     alarm.replace(size - 6, 5, "ALARM");

@@ -1,6 +1,7 @@
 // The message for errno against strerror_r. The two say the same in different languages.
 #include <cerrno>
 #include <cstring>
+#include <system_error>
 
 #include "bench.h"
 #include "zeph.h"
@@ -27,6 +28,13 @@ void add_rows(const char* input, int value) {
           [&f] {
             errno = f.value;
             return strerror_r(errno, f.text, sizeof f.text) != nullptr;
+          },
+          other_language)
+      .peer(
+          "std::system_category",
+          [&f] {
+            errno = f.value;
+            return !std::system_category().message(errno).empty();
           },
           other_language);
 }

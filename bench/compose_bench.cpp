@@ -1,0 +1,132 @@
+// Appending, printing and copying against what a user would write instead.
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+#include "bench.h"
+#include "zeph.h"
+
+#if ZEPH_BENCH_HAS_ABSEIL
+#include <absl/strings/str_format.h>
+#endif
+#if ZEPH_BENCH_HAS_FMT
+#include <fmt/format.h>
+#include <fmt/printf.h>
+#endif
+
+namespace zeph_bench {
+namespace {
+
+struct Room {
+  char text[2048] = "";
+};
+
+// What is appended to a text of so many bytes; each call starts with that text again.
+template <typename Value, typename Append>
+void add_append_row(const char* operation, std::size_t size, Value value, const char* peer,
+                    Append append) {
+  Room& room = keep(Room{});
+  std::memset(room.text, 'x', size);
+  const auto start = [&room, size] {
+    room.text[size] = '\0';
+    return room.text;
+  };
+  row("compose", operation, "to " + size_text(size), size)
+      .outputs([&room] { return std::string(room.text); })
+      .zeph([start, value] { return Orbane::Zeph_Cat(start(), value) != nullptr; })
+      .peer(peer, [start, value, append] { return append(start(), value), true; });
+}
+
+void add_append_rows(std::size_t size) {
+  add_append_row("Zeph_Cat, 12 bytes", size, static_cast<const char*>("Pressure0.75"), "strcat",
+                 [](char* text, const char* more) { std::strcat(text, more); });
+  add_append_row("Zeph_Cat, char", size, ';', "strlen, two bytes", [](char* text, char byte) {
+    char* const end = text + std::strlen(text);
+    end[0] = byte;
+    end[1] = '\0';
+  });
+  add_append_row("Zeph_Cat, int", size, 421337, "strlen, sprintf", [](char* text, int value) {
+    std::sprintf(text + std::strlen(text), "%d", value);
+  });
+  add_append_row(
+      "Zeph_Cat, double", size, 421.337, "strlen, sprintf",
+      [](char* text, double value) { std::sprintf(text + std::strlen(text), "%f", value); });
+#if ZEPH_BENCH_HAS_FMT
+  add_append_row("Zeph_Cat, int ", size, 421337, "strlen, fmt::format_int",
+                 [](char* text, int value) {
+                   const fmt::format_int digits(value);
+                   std::memcpy(text + std::strlen(text), digits.data(), digits.size());
+                   text[std::strlen(text)] = '\0';
+                 });
+#endif
+}
+
+void add_print_row(std::size_t size) {
+  const std::string& name = keep(std::string(size, 'n'));
+  const int room = static_cast<int>(size) + 64;
+  auto& printed = row("compose", "Zeph_Splicing, %s=%d", size_text(size), size);
+  printed.zeph([&name, room] { return Orbane::Zeph_Splicing(room, "%s=%d", name.c_str(), 42); })
+      .peer("snprintf to a String", [&name, room] {
+        std::string text(static_cast<std::size_t>(room), '\0');
+        const int length = std::snprintf(text.data(), text.size(), "%s=%d", name.c_str(), 42);
+        text.resize(static_cast<std::size_t>(length));
+        return text;
+      });
+#if ZEPH_BENCH_HAS_ABSEIL
+  printed.peer("absl::StrFormat", [&name] { return absl::StrFormat("%s=%d", name, 42); });
+#else
+  printed.missing_peer("abseil");
+#endif
+#if ZEPH_BENCH_HAS_FMT
+  printed.peer("fmt::sprintf", [&name] { return fmt::sprintf("%s=%d", name, 42); });
+#else
+  printed.missing_peer("fmt");
+#endif
+}
+
+void add_copy_rows(std::size_t size) {
+  const std::string& text = keep(std::string(size, 'c'));
+  Room& room = keep(Room{});
+  const int limit = static_cast<int>(sizeof room.text);
+  row("compose", "Zeph_Copy_Stack", size_text(size), size)
+      .outputs([&room] { return std::string(room.text); })
+      .zeph(
+          [&text, &room, limit] { return Orbane::Zeph_Copy_Stack(room.text, text.c_str(), limit); })
+      .peer("snprintf %s", [&text, &room] {
+        return std::snprintf(room.text, sizeof room.text, "%s", text.c_str()) > 0;
+      });
+  char*& block = keep(static_cast<char*>(nullptr));
+  char*& own = keep(static_cast<char*>(nullptr));
+  row("compose", "Zeph_Copy_Mem, Zeph_Release_Mem", size_text(size), size)
+      .zeph([&text, &block] {
+        const bool copied = Orbane::Zeph_Copy_Mem(&block, text.c_str());
+        Orbane::Zeph_Release_Mem(&block);
+        return copied;
+      })
+      .peer("strdup, free",
+            [&text, &own] {
+              own = strdup(text.c_str());
+              benchmark::DoNotOptimize(own);
+              std::free(own);
+              return true;
+            })
+      .peer("strlen, calloc, memcpy, free", [&text, &own] {
+        const std::size_t bytes = std::strlen(text.c_str());
+        own = static_cast<char*>(std::calloc(bytes + 1, 1));
+        std::memcpy(own, text.c_str(), bytes);
+        benchmark::DoNotOptimize(own);
+        std::free(own);
+        return true;
+      });
+}
+
+}  // namespace
+
+void register_compose_rows() {
+  for (const std::size_t size : {8U, 64U}) add_append_rows(size);
+  for (const std::size_t size : {32U, 1024U}) add_print_row(size);
+  for (const std::size_t size : {32U, 1024U}) add_copy_rows(size);
+}
+
+}  // namespace zeph_bench
