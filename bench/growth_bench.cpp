@@ -53,6 +53,18 @@ auto on_a_text(const std::string& part, Read read) {
   };
 }
 
+// What the rest is measured by.
+void register_machine() {
+  grow("machine", "memcpy", [](std::size_t size) {
+    const std::string& from = keep(std::string(size, 'm'));
+    std::string& to = keep(std::string(size, ' '));
+    return [&from, &to] { return std::memcpy(to.data(), from.data(), from.size()) != nullptr; };
+  });
+  grow("machine", "memchr", on_a_text("m", [](const std::string& text) {
+         return std::memchr(text.data(), '\n', text.size()) != nullptr;
+       }));
+}
+
 void register_plain() {
   const std::string prose = "Chamber Pressure 0.75 mTorr; ", list = "item,";
   grow("search", "Zeph_Find_Position", on_a_text(prose, [](const std::string& text) {
@@ -139,6 +151,7 @@ void register_adversarial() {
 }  // namespace
 
 void register_growth_rows() {
+  register_machine();
   register_plain();
   register_adversarial();
 }
