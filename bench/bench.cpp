@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <random>
 #include <unordered_map>
 
 #include "json.h"
@@ -49,32 +50,46 @@ double median(std::vector<double> values) {
 
 constexpr double slow = 0.8;
 
-void print_line(const Row& row, double zeph, const std::string& peer, double peer_time) {
-  const double ratio = peer_time / zeph;
-  std::printf("%-10s %-28s %-24s %9.2f %7.2f   %-30s %9.2f %6.2f%s\n", row.family().c_str(),
-              row.operation().c_str(), row.input().c_str(), zeph,
-              static_cast<double>(row.bytes()) / zeph, peer.c_str(), peer_time, ratio,
-              ratio < slow ? "  < 0.8" : "");
+const Timing* timing_of(const Row& row, Kind kind) {
+  for (const auto& timing : row.timings()) {
+    if (timing->kind == kind) return timing.get();
+  }
+  return nullptr;
 }
 
-// Returns whether the row was timed and is below the mark. Promised requests are added to a peer.
-bool print_row(const Row& row, bool all_peers) {
-  std::vector<std::pair<double, std::string>> peers;
-  double zeph = 0, requests = 0;
-  for (const auto& timing : row.timings()) {
-    if (timing->rounds.empty()) continue;
-    const double time = median(timing->rounds);
-    if (timing->kind == Kind::zeph) zeph = time;
-    if (timing->kind == Kind::requests) requests = time;
-    if (timing->kind == Kind::peer) peers.emplace_back(time, timing->who);
+// The median of the ratios of the rounds: what a round compares ran within milliseconds, in the
+// same state of the machine. Promised requests are added to the peer.
+double ratio_to(const Row& row, const Timing& peer) {
+  const Timing& zeph = *timing_of(row, Kind::zeph);
+  const Timing* const requests = timing_of(row, Kind::requests);
+  std::vector<double> ratios;
+  for (std::size_t i = 0; i < peer.rounds.size(); ++i) {
+    ratios.push_back((peer.rounds[i] + (requests ? requests->rounds[i] : 0)) / zeph.rounds[i]);
   }
-  if (zeph == 0 || peers.empty()) return false;
+  return median(std::move(ratios));
+}
+
+// Returns whether the row was timed and is below the mark.
+bool print_row(const Row& row, bool all_peers) {
+  const Timing* const zeph = timing_of(row, Kind::zeph);
+  if (!zeph || zeph->rounds.empty()) return false;
+  const bool requests = timing_of(row, Kind::requests) != nullptr;
+  std::vector<std::pair<double, const Timing*>> peers;
+  for (const auto& timing : row.timings()) {
+    if (timing->kind == Kind::peer) peers.emplace_back(ratio_to(row, *timing), timing.get());
+  }
+  if (peers.empty()) return false;
   std::sort(peers.begin(), peers.end());
   if (!all_peers) peers.resize(1);
-  for (const auto& [time, who] : peers) {
-    print_line(row, zeph, requests > 0 ? who + " + requests" : who, time + requests);
+  for (const auto& [ratio, peer] : peers) {
+    const double time = median(zeph->rounds);
+    const std::string name = peer->who + (requests ? " + requests" : "");
+    std::printf("%-10s %-28s %-24s %9.2f %7.2f   %-30s %9.2f %6.2f%s\n", row.family().c_str(),
+                row.operation().c_str(), row.input().c_str(), time,
+                static_cast<double>(row.bytes()) / time, name.c_str(), median(peer->rounds), ratio,
+                ratio < slow ? "  < 0.8" : "");
   }
-  return (peers[0].first + requests) / zeph < slow;
+  return peers[0].first < slow;
 }
 
 void print_table(bool all_peers) {
@@ -99,9 +114,10 @@ const char* kind_name(Kind kind) {
 }
 
 // All medians, for a report that is made elsewhere.
-bool write_json(const std::string& path) {
+bool write_json(const std::string& path, std::size_t rounds) {
   JsonFile json(path);
   if (!json.open()) return false;
+  json.put("rounds", static_cast<double>(rounds));
   json.begin_list("rows");
   for (const auto& row : session().rows) {
     json.begin_object();
@@ -119,7 +135,7 @@ bool write_json(const std::string& path) {
       json.put("who", timing->who);
       json.put("differs", timing->differs);
       json.put("ns", median(timing->rounds));
-      json.put("rounds", static_cast<double>(timing->rounds.size()));
+      if (timing->kind == Kind::peer) json.put("ratio", ratio_to(*row, *timing));
       json.end_object();
     }
     json.end_list();
@@ -147,8 +163,10 @@ std::string answer_text(double answer) {
   return digits;
 }
 
-Row::Row(std::string family, std::string operation, std::string input, std::size_t bytes)
-    : family_(std::move(family)),
+Row::Row(std::size_t number, std::string family, std::string operation, std::string input,
+         std::size_t bytes)
+    : number_(number),
+      family_(std::move(family)),
       operation_(std::move(operation)),
       input_(std::move(input)),
       bytes_(bytes) {}
@@ -184,8 +202,9 @@ Row& Row::note(const std::string& text) {
 
 std::string Row::add_timing(Kind kind, const char* who, const char* differs) {
   timings_.push_back(std::make_unique<Timing>(Timing{kind, who, differs ? differs : "", {}}));
-  std::string name =
-      (growth_ ? "growth: " : "") + family_ + ": " + operation_ + ": " + input_ + ": " + who;
+  // The number of the row comes first: by it the timings of a row are run together.
+  const std::string name =
+      std::to_string(number_) + ": " + family_ + ": " + operation_ + ": " + input_ + ": " + who;
   if (!session().timings.emplace(name, timings_.back().get()).second) {
     std::fprintf(stderr, "two timings are named %s\n", name.c_str());
     session().wrong = true;
@@ -219,28 +238,41 @@ std::string size_text(std::size_t size) {
 }
 
 Row& row(const char* family, std::string operation, std::string input, std::size_t bytes) {
-  session().rows.push_back(
-      std::make_unique<Row>(family, std::move(operation), std::move(input), bytes));
-  return *session().rows.back();
+  auto& rows = session().rows;
+  rows.push_back(std::make_unique<Row>(rows.size() + 1, family, std::move(operation),
+                                       std::move(input), bytes));
+  return *rows.back();
 }
 
 int run(const RunOptions& options, std::vector<char*> arguments) {
   if (session().wrong) return 1;
-  // The rounds of all operations are shuffled, so that a disturbance of the machine does not fall
-  // on one side of a row.
-  std::string shuffle = "--benchmark_enable_random_interleaving=true";
-  std::string rounds = "--benchmark_repetitions=" + std::string(options.quick ? "3" : "15");
   std::string round_time =
-      "--benchmark_min_time=" + std::string(options.quick ? "0.0002" : "0.005");
-  arguments.insert(arguments.begin() + 1, {shuffle.data(), rounds.data(), round_time.data()});
+      "--benchmark_min_time=" + std::string(options.quick ? "0.0002" : "0.004");
+  arguments.insert(arguments.begin() + 1, round_time.data());
   auto count = static_cast<int>(arguments.size());
   arguments.push_back(nullptr);
   benchmark::Initialize(&count, arguments.data());
   if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 1;
+
+  std::vector<std::size_t> order;  // row numbers from 1 on
+  for (std::size_t i = 0; i < session().rows.size(); ++i) {
+    const Row& row = *session().rows[i];
+    const std::string name = row.operation() + ", " + row.input();
+    if (name.find(options.rows) != std::string::npos) order.push_back(i + 1);
+  }
+  // A round takes the rows in an order of its own, so that no row stands in a disturbance each
+  // time.
+  std::mt19937 random(1);
+  const std::size_t rounds = options.quick ? 3 : options.rounds;
   Collector collector;
-  benchmark::RunSpecifiedBenchmarks(&collector);
+  for (std::size_t round = 0; round < rounds; ++round) {
+    std::shuffle(order.begin(), order.end(), random);
+    for (const std::size_t number : order) {
+      benchmark::RunSpecifiedBenchmarks(&collector, "^" + std::to_string(number) + ":");
+    }
+  }
   print_table(options.all_peers);
-  if (options.json.empty() || write_json(options.json)) return 0;
+  if (options.json.empty() || write_json(options.json, rounds)) return 0;
   std::fprintf(stderr, "%s cannot be written\n", options.json.c_str());
   return 1;
 }

@@ -54,7 +54,8 @@ std::string answer_text(const std::vector<std::string>& answer);
 
 class Row {
  public:
-  Row(std::string family, std::string operation, std::string input, std::size_t bytes);
+  Row(std::size_t number, std::string family, std::string operation, std::string input,
+      std::size_t bytes);
 
   // How the outputs of the operations are read, if their result alone is not the answer. It should
   // also spoil the outputs, so that a peer that writes nothing is found out. Stands before zeph().
@@ -90,7 +91,8 @@ class Row {
   // A peer that this build does not have.
   Row& missing_peer(const char* name);
 
-  // Why the row may fall below the mark; printed below the table if it does.
+  // Why the row may be behind, where it is not the default: a peer that is compiled into its
+  // caller, for this one use, needs no call.
   Row& reason(std::string text);
 
   // A remark that is printed below the table.
@@ -147,11 +149,14 @@ class Row {
   std::string add_timing(Kind kind, const char* who, const char* differs);
   void check(const char* who, const std::string& answer, const char* differs);
 
+  std::size_t number_;  // from 1 on
   std::string family_, operation_, input_;
   std::size_t bytes_;
   std::function<std::string()> outputs_;
   std::string expected_;
-  std::string reason_;
+  std::string reason_ =
+      "a call into the shared library, beside a peer that is compiled into its caller for this one "
+      "use";
   bool growth_ = false;
   std::vector<std::unique_ptr<Timing>> timings_;
 };
@@ -178,7 +183,9 @@ Fixture& keep(Fixture fixture) {
 struct RunOptions {
   bool quick = false;      // a few rounds, to see that everything runs
   bool all_peers = false;  // a line for each peer, not only for the best one
-  std::string json;        // a file for all figures, as JSON
+  std::size_t rounds = 15;
+  std::string rows;  // only rows whose operation and input, "Zeph_Lower, 64 bytes", contain this
+  std::string json;  // a file for all figures, as JSON
 };
 int run(const RunOptions& options, std::vector<char*> arguments);
 

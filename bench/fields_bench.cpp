@@ -187,6 +187,8 @@ void add_string_rows(Cut& c, const std::string& input) {
                       std::string(c.separator == ' ' ? "Zeph_Seperate" : "Zeph_Seperate_Char") +
                           " String " + std::to_string(count),
                       input, c.text.size());
+  strings.reason(
+      "the requests are made one by one and looked at, and each field is cut at the limit");
   strings.outputs([&c] { return c.take_strings(count); })
       .zeph([&c] {
         return with_outputs<count>(c.strings, [&](auto&... o) {

@@ -29,15 +29,19 @@ void grow(const char* family, const char* operation, Make make) {
   }
 }
 
+// Texts and their copies start half a page apart: at the same place in their pages each store would
+// meet the loads behind it.
+constexpr std::size_t apart = 2048;
+
 // An operation on a fresh copy of a text; the copy is part of every figure.
 template <typename Change>
 auto on_a_copy(const std::string& part, Change change) {
   return [part, change](std::size_t size) {
-    const std::string& source = keep(repeated(part, size));
-    std::string& work = keep(std::string(source));
+    const std::string& source = keep(std::string(apart, ' ') + repeated(part, size));
+    std::string& work = keep(repeated(part, size));
     return [&source, &work, change] {
-      std::memcpy(work.data(), source.data(), source.size());
-      work[source.size()] = '\0';
+      std::memcpy(work.data(), source.data() + apart, work.size());
+      work[work.size()] = '\0';
       change(work);
       return work.data()[0];
     };
@@ -56,9 +60,10 @@ auto on_a_text(const std::string& part, Read read) {
 // What the rest is measured by.
 void register_machine() {
   grow("machine", "memcpy", [](std::size_t size) {
-    const std::string& from = keep(std::string(size, 'm'));
+    const std::string& from = keep(std::string(apart + size, 'm'));
     std::string& to = keep(std::string(size, ' '));
-    return [&from, &to] { return std::memcpy(to.data(), from.data(), from.size()) != nullptr; };
+    return
+        [&from, &to] { return std::memcpy(to.data(), from.data() + apart, to.size()) != nullptr; };
   });
   grow("machine", "memchr", on_a_text("m", [](const std::string& text) {
          return std::memchr(text.data(), '\n', text.size()) != nullptr;

@@ -1,4 +1,5 @@
-// zeph_bench [--quick] [--all-peers] [--family=NAME] [--threads] [--json=FILE] [Google Benchmark's
+// zeph_bench [--quick] [--all-peers] [--family=NAME] [--rows=TEXT] [--rounds=N] [--threads]
+//            [--json=FILE] [Google Benchmark's
 // options]
 #include <cstdio>
 #include <string>
@@ -64,7 +65,8 @@ int main(int argc, char** argv) {
   std::vector<char*> others(argv, argv + 1);
   bool chosen = false, threads = false;
   for (int i = 1; i < argc; ++i) {
-    constexpr std::string_view family = "--family=", json = "--json=";
+    constexpr std::string_view family = "--family=", json = "--json=", rows = "--rows=",
+                               rounds = "--rounds=";
     const std::string_view argument = argv[i];
     if (argument == "--quick") {
       options.quick = true;
@@ -72,6 +74,10 @@ int main(int argc, char** argv) {
       options.all_peers = true;
     } else if (argument == "--threads") {
       threads = true;
+    } else if (argument.substr(0, rows.size()) == rows) {
+      options.rows = argument.substr(rows.size());
+    } else if (argument.substr(0, rounds.size()) == rounds) {
+      options.rounds = std::stoul(std::string(argument.substr(rounds.size())));
     } else if (argument.substr(0, json.size()) == json) {
       options.json = argument.substr(json.size());
     } else if (argument.substr(0, family.size()) == family) {

@@ -50,6 +50,7 @@ void add_rows(Search search, const std::string& input) {
       .limit("memchr",
              [&s] { return std::memchr(s.text.data(), '\0', s.text.size() + 1) != nullptr; });
   auto& folded = row("search", "Zeph_Find_Position_L", input, s.text.size());
+  folded.reason("a call more into the shared library, and one that asks for the locale");
   folded.zeph([&s] { return Orbane::Zeph_Find_Position_L(s.text.c_str(), s.pattern.c_str()); })
       .peer("strcasestr",
             [&s] { return place(s.text.c_str(), strcasestr(s.text.c_str(), s.pattern.c_str())); })

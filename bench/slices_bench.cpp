@@ -31,6 +31,7 @@ void add_byte_rows(Marked& m, const std::string& input) {
       .outputs([&m] { return std::string(m.bytes); })
       .zeph(
           [&m] { return Orbane::Zeph_Ext_Name_From_FullPath(m.bytes, m.text.c_str(), 131071), 0; })
+      .reason("it looks for two separators and cuts at a size; strrchr looks for one")
       .peer("strrchr, strcpy", [&m] {
         const char* const slash = std::strrchr(m.text.c_str(), '/');
         std::strcpy(m.bytes, slash ? slash + 1 : m.text.c_str());

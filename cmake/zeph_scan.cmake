@@ -19,13 +19,6 @@ check_cxx_source_compiles("
   int main() { return (*__ctype_tolower_loc())['A'] + (*__ctype_toupper_loc())['a']; }"
   ZEPH_FOUND_CTYPE_TABLES)
 
-check_cxx_source_compiles("
-  #include <cstring>
-  #ifndef __GLIBC__
-  #error unknown
-  #endif
-  int main() {}" ZEPH_FOUND_WIDE_STRSTR)
-
 if(NOT ZEPH_PORTABLE)
   if(ZEPH_FOUND_AVX2)
     list(APPEND ZEPH_SCAN_SOURCES scan/ascii_fold_avx2.cpp scan/find_pair_avx2.cpp scan/hex_pairs_avx2.cpp)
@@ -33,8 +26,5 @@ if(NOT ZEPH_PORTABLE)
   endif()
   if(ZEPH_FOUND_CTYPE_TABLES)
     list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_CTYPE_TABLES)
-  endif()
-  if(ZEPH_FOUND_WIDE_STRSTR)
-    list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_WIDE_STRSTR)
   endif()
 endif()

@@ -39,11 +39,12 @@ class Row:
         self.family, self.operation = first['family'], first['operation'].strip()
         self.input, self.bytes, self.reason = first['input'], first['bytes'], first['reason']
         self.growth = bool(first['growth'])
-        self.times, self.differs = {}, {}
+        self.times, self.ratios, self.differs = {}, {}, {}
         for row in found:
             for timing in row['timings']:
                 key = (timing['kind'], timing['who'])
                 self.times.setdefault(key, []).append(timing['ns'])
+                self.ratios.setdefault(timing['who'], []).append(timing.get('ratio'))
                 self.differs[timing['who']] = timing['differs']
 
     def median(self, kind, who):
@@ -58,9 +59,7 @@ class Row:
         return self.times.get(('requests', 'requests'))
 
     def ratio(self, peer):
-        zeph, times = self.times[('zeph', 'Zeph')], self.times[('peer', peer)]
-        more = self.requests or [0] * len(times)
-        return statistics.median((p + m) / z for p, m, z in zip(times, more, zeph))
+        return statistics.median(self.ratios[peer])
 
     def best(self):
         """The peer that is hardest to beat, and the ratio to it."""
@@ -142,8 +141,7 @@ def behind_lines(rows):
     reasons = {}
     for row in rows:
         if row.best()[0] < DRAW:
-            why = row.reason or 'no reason is known but the cost of a call into the library'
-            reasons.setdefault(why, []).append((row.best()[0], row))
+            reasons.setdefault(row.reason, []).append((row.best()[0], row))
     lines = []
     for why, found in sorted(reasons.items(), key=lambda item: min(ratio for ratio, _ in item[1])):
         found.sort(key=lambda item: item[0])
@@ -256,10 +254,11 @@ def main():
                        for (name, size), row in machine.items() if size == '1 MiB')
     lines = ['# Benchmarks', '',
              '`scripts/bench.sh` installs the peers, measures on the machine at hand and writes this page: %d runs, '
-             'each row at least %d rounds a run, the rounds of all rows shuffled. A time is that of one call in '
-             'nanoseconds; a ratio is the time of the best peer over that of Zeph: above 1 Zeph is faster. What '
+             'each row %d rounds a run. A round times Zeph and the peers of one row one after the other, the rows in '
+             'an order of its own; a ratio is the median of the rounds. A time is that of one call in '
+             'nanoseconds; the ratio is the time of the best peer over that of Zeph: above 1 Zeph is faster. What '
              'a row gives was compared with what each peer gives before it was timed.' %
-             (len(runs), min(timing['rounds'] for timing in json.load(open(runs[0]))['rows'][0]['timings'])), '',
+             (len(runs), json.load(open(runs[0]))['rounds']), '',
              *machine_lines(), '- This machine: ' + speeds, '',
              '**' + summary([row.best()[0] for row in rows]) + '**', '',
              '![Ratios by family](%s)' % os.path.basename(picture), '',

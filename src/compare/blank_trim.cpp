@@ -29,6 +29,21 @@ Kept without_both(const char* text, std::size_t size) {
   return {begin, size - run_at_back(text + begin, size - begin, blank)};
 }
 
+// A few bytes cost less than the call that clears them.
+void clear_bytes(char* bytes, std::size_t size) {
+  if (size > 16) {
+    std::memset(bytes, '\0', size);
+  } else if (size >= 8) {
+    std::memset(bytes, '\0', 8);
+    std::memset(bytes + size - 8, '\0', 8);
+  } else if (size >= 4) {
+    std::memset(bytes, '\0', 4);
+    std::memset(bytes + size - 4, '\0', 4);
+  } else {
+    for (std::size_t i = 0; i < size; ++i) bytes[i] = '\0';
+  }
+}
+
 // Moves the bytes that stay to the front. From their end up to the old terminator all bytes become
 // zero: trailing blanks as promised, and behind a head because each blank taken out alone would
 // have drawn a further zero byte behind the text.
@@ -36,7 +51,7 @@ void keep_in_text(char* text, std::size_t size, Kept kept) {
   const std::size_t left = kept.end - kept.begin;
   if (left == size) return;
   if (kept.begin > 0) move_bytes(text, text + kept.begin, left);
-  std::memset(text + left, '\0', size - left);
+  clear_bytes(text + left, size - left);
 }
 
 void keep_in_string(std::string& text, Kept kept) {

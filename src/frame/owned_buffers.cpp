@@ -26,10 +26,12 @@ void report_refused_work_buffer() {
   Diag_Banner("[Zeph] Memory calloc Fail in Zeph_Prepare_Mem");
 }
 
-char* request_work_buffer(std::size_t size) {
-  char* const block = request_block(size);
-  if (!block) report_refused_work_buffer();
-  return block;
+void request_work_buffers(char** blocks, std::size_t count, std::size_t size) {
+  const ErrorStateKeeper keeper;
+  for (std::size_t i = 0; i < count; ++i) {
+    blocks[i] = static_cast<char*>(std::calloc(size, 1));
+    if (!blocks[i]) report_refused_work_buffer();
+  }
 }
 
 bool prepare_block(char*& block, std::size_t size) {
@@ -42,7 +44,7 @@ bool prepare_block(char*& block, std::size_t size) {
     if (size <= capacity) return true;
     release_block(block);
   }
-  block = request_work_buffer(size);
+  request_work_buffers(&block, 1, size);
   return block != nullptr;
 }
 

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdlib>
 
 namespace zeph {
 
@@ -16,8 +17,8 @@ void release_block(char*& block);
 // The report of a refused work buffer.
 void report_refused_work_buffer();
 
-// One request for a work buffer. A refusal is reported, and NULL returned.
-char* request_work_buffer(std::size_t size);
+// Asks for work buffers of one size, in order. Each refusal is reported and leaves a NULL.
+void request_work_buffers(char** blocks, std::size_t count, std::size_t size);
 
 // The core of Zeph_Prepare_Mem: a block that is there and has the capacity stays, another one takes
 // its place otherwise. Reports a refusal of the heap, or a block that it does not know.
@@ -29,10 +30,10 @@ template <std::size_t count>
 class WorkBuffers {
  public:
   explicit WorkBuffers(std::size_t size) {
-    for (char*& block : blocks_) block = request_work_buffer(size);
+    request_work_buffers(blocks_.data(), count, size);
   }
   ~WorkBuffers() {
-    for (char*& block : blocks_) release_block(block);
+    for (char* const block : blocks_) std::free(block);
   }
   WorkBuffers(const WorkBuffers&) = delete;
   WorkBuffers& operator=(const WorkBuffers&) = delete;

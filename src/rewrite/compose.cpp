@@ -46,7 +46,11 @@ char* Zeph_Cat(char* text, const char* more) {
 }
 
 char* Zeph_Cat(char* text, char byte) {
-  return byte == '\0' ? text : zeph::append(text, &byte, 1);
+  if (byte == '\0') return text;
+  char* const end = text + std::strlen(text);
+  end[0] = byte;
+  end[1] = '\0';
+  return text;
 }
 
 char* Zeph_Cat(char* text, int value) {

@@ -112,6 +112,25 @@ void change(GapText& text, std::size_t at, View pattern, View replacement, After
   text.take_back(std::min(pattern.size() - 1, text.done));
 }
 
+// Behind a change others are often near: byte by byte, the bytes that are done are a stack on whose
+// top the pattern shows up. Ends where none did for a while; the bytes that may start an occurrence
+// stand in front of the rest again. The replacement is shorter than the pattern.
+void change_near(GapText& text, View pattern, View replacement) {
+  constexpr std::size_t quiet = 32;
+  const std::size_t last = pattern.size() - 1;
+  for (std::size_t left = quiet; left > 0 && text.rest != text.end; --left) {
+    const char next = text.bytes[text.rest++];
+    text.bytes[text.done++] = next;
+    if (next != pattern[last] || text.done <= last) continue;
+    if (View(text.bytes + text.done - pattern.size(), last) != pattern.substr(0, last)) continue;
+    text.done -= pattern.size();
+    text.rest -= replacement.size();
+    put(text.bytes + text.rest, replacement);
+    left = quiet;
+  }
+  text.take_back(std::min(last, text.done));
+}
+
 // Changes all occurrences and closes the gap. Returns the new size. The gap never gets too small:
 // the replacement is no longer than the pattern, or the gap was made for all changes together.
 std::size_t change_all(GapText text, View pattern, View replacement, AfterChange then) {
@@ -119,6 +138,10 @@ std::size_t change_all(GapText text, View pattern, View replacement, AfterChange
     const std::size_t at = find_next(text.unsearched(), pattern);
     if (at == View::npos) break;
     change(text, at, pattern, replacement, then);
+    // Where each byte asks for a comparison, only short patterns keep the whole linear.
+    if (then == AfterChange::look_again && pattern.size() <= 16) {
+      change_near(text, pattern, replacement);
+    }
   }
   text.pass(text.end - text.rest);
   return text.done;

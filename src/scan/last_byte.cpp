@@ -34,14 +34,15 @@ struct WideBytes {
 }  // namespace
 
 std::size_t behind_last(const char* text, std::size_t size, char a, char b) {
-  if (size < step) return behind_last_portable(text, size, a, b);
+  if (size < step) return behind_last_portable(text, size, a, b);  // no 16 bytes to load
   const WideBytes wide{all_16(a), all_16(b)};
   while (size >= stride && !wide.any_in_stride(text + size - stride)) size -= stride;
   for (; size >= step; size -= step) {
     const unsigned bits = bits_of(wide.equal(text + size - step));
     if (bits != 0) return size - step + highest_bit(bits) + 1;
   }
-  return behind_last_portable(text, size, a, b);
+  const unsigned rest = bits_of(wide.equal(text)) & ((1U << size) - 1);
+  return rest == 0 ? 0 : highest_bit(rest) + 1;
 }
 
 #else

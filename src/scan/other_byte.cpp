@@ -38,11 +38,13 @@ bool all_same(const char* from, __m128i byte) {
 
 }  // namespace
 
-// Most runs are short: the first byte decides them.
+// Most runs are short: the first bytes decide them.
+constexpr std::size_t near = 6;
+
 std::size_t run_at_front(const char* text, std::size_t size, char byte) {
-  if (size < step || *text != byte) return run_at_front_portable(text, size, byte);
+  std::size_t run = run_at_front_portable(text, size < near ? size : near, byte);
+  if (run < near) return run;
   const __m128i same = all_16(byte);
-  std::size_t run = 0;
   while (size - run >= stride && all_same(text + run, same)) run += stride;
   for (; size - run >= step; run += step) {
     if (const unsigned bits = others(text + run, same)) return run + lowest_bit(bits);
@@ -51,9 +53,11 @@ std::size_t run_at_front(const char* text, std::size_t size, char byte) {
 }
 
 std::size_t run_at_back(const char* text, std::size_t size, char byte) {
-  if (size < step || text[size - 1] != byte) return run_at_back_portable(text, size, byte);
+  const std::size_t some = size < near ? size : near;
+  const std::size_t run = run_at_back_portable(text + size - some, some, byte);
+  if (run < near) return run;
   const __m128i same = all_16(byte);
-  std::size_t left = size;
+  std::size_t left = size - run;
   while (left >= stride && all_same(text + left - stride, same)) left -= stride;
   for (; left >= step; left -= step) {
     if (const unsigned bits = others(text + left - step, same)) {

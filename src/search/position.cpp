@@ -6,6 +6,8 @@
 #include <string_view>
 
 #include "frame/locale_fold.h"
+#include "scan/byte_mask.h"
+#include "scan/find_byte.h"
 #include "scan/find_needle.h"
 #include "zeph.h"
 
@@ -59,37 +61,36 @@ std::size_t find_in_range(const char* text, Range range, View pattern, CaseRule 
       [pattern, &table](View piece) { return find_needle_by_table(piece, pattern, table.bytes); });
 }
 
-// Patterns for the runtime's own search, behind the front of a text. Where it is a wide one,
-// it needs no length and so passes long texts once; its cost can be that of text times pattern, so
-// that only short patterns go there.
-#ifdef ZEPH_HAS_WIDE_STRSTR
-constexpr std::size_t longest_short = 16;
-#else
-constexpr std::size_t longest_short = 1;
-#endif
-
-int to_position(const char* text, const char* found) {
-  return found ? to_position(static_cast<std::size_t>(found - text)) : not_found;
-}
-
-int find_short(const char* text, View pattern) {
-  if (pattern.size() == 1) return to_position(text, std::strchr(text, pattern[0]));
-  constexpr std::size_t front = 64;
-  const std::size_t known = strnlen(text, front);
+// The exact search through a whole text. Most texts are short, and one look at their front decides.
+// In long ones the first byte of most patterns is rare: as long as it is, the runtime's walk to it
+// needs no length and passes the text once.
+std::size_t find_exact(const char* text, View pattern) {
+  const std::size_t known = strnlen(text, mask_bytes), overlap = pattern.size() - 1;
   const std::size_t found = find_needle(View(text, known), pattern);
-  if (found != View::npos) return static_cast<int>(found);
-  if (known < front) return not_found;
-  const char* const rest = text + known - (pattern.size() - 1);
-  return to_position(text, std::strstr(rest, pattern.data()));
+  if (found != View::npos || known < mask_bytes) return found;
+  const char* from = text + known - std::min(known, overlap);
+  for (int candidates = 0; candidates < 4; ++candidates) {
+    from = find_byte_or_end(from, pattern[0]);
+    if (*from == '\0') return View::npos;
+    std::size_t same = 1;
+    while (same < pattern.size() && from[same] == pattern[same]) ++same;
+    if (same == pattern.size()) return static_cast<std::size_t>(from - text);
+    ++from;
+  }
+  const Range rest{static_cast<std::size_t>(from - text), View::npos};
+  return find_in_range(text, rest, pattern, CaseRule::exact);
 }
 
 }  // namespace
 
 int find_position(const char* text, const char* pattern, CaseRule rule) {
-  const View wanted(pattern);
-  if (wanted.empty()) return not_found;
-  if (rule == CaseRule::exact && wanted.size() == 1) return find_short(text, wanted);
-  return to_position(find_in_range(text, {0, View::npos}, wanted, rule));
+  if (pattern[0] == '\0') return not_found;
+  if (rule == CaseRule::ignored) {
+    return to_position(find_in_range(text, {0, View::npos}, pattern, rule));
+  }
+  if (pattern[1] != '\0') return to_position(find_exact(text, pattern));
+  const char* const found = std::strchr(text, pattern[0]);
+  return found ? to_position(static_cast<std::size_t>(found - text)) : not_found;
 }
 
 int find_position(const char* text, SearchSpan span, const char* pattern, CaseRule rule) {
