@@ -76,7 +76,8 @@ bool print_row(const Row& row, bool all_peers) {
   const bool requests = timing_of(row, Kind::requests) != nullptr;
   std::vector<std::pair<double, const Timing*>> peers;
   for (const auto& timing : row.timings()) {
-    if (timing->kind == Kind::peer) peers.emplace_back(ratio_to(row, *timing), timing.get());
+    if (timing->kind != Kind::peer || timing->rounds.empty()) continue;
+    peers.emplace_back(ratio_to(row, *timing), timing.get());
   }
   if (peers.empty()) return false;
   std::sort(peers.begin(), peers.end());
@@ -268,7 +269,8 @@ int run(const RunOptions& options, std::vector<char*> arguments) {
   for (std::size_t round = 0; round < rounds; ++round) {
     std::shuffle(order.begin(), order.end(), random);
     for (const std::size_t number : order) {
-      benchmark::RunSpecifiedBenchmarks(&collector, "^" + std::to_string(number) + ":");
+      const std::string wanted = options.only_zeph ? ": .*: Zeph$" : ": ";
+      benchmark::RunSpecifiedBenchmarks(&collector, "^" + std::to_string(number) + wanted);
     }
   }
   print_table(options.all_peers);

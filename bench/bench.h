@@ -183,6 +183,7 @@ Fixture& keep(Fixture fixture) {
 struct RunOptions {
   bool quick = false;      // a few rounds, to see that everything runs
   bool all_peers = false;  // a line for each peer, not only for the best one
+  bool only_zeph = false;  // without peers, to compare two builds of the library
   std::size_t rounds = 15;
   std::string rows;  // only rows whose operation and input, "Zeph_Lower, 64 bytes", contain this
   std::string json;  // a file for all figures, as JSON

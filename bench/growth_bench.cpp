@@ -37,8 +37,8 @@ constexpr std::size_t apart = 2048;
 template <typename Change>
 auto on_a_copy(const std::string& part, Change change) {
   return [part, change](std::size_t size) {
-    const std::string& source = keep(std::string(apart, ' ') + repeated(part, size));
     std::string& work = keep(repeated(part, size));
+    const std::string& source = keep(std::string(apart, ' ') + work);
     return [&source, &work, change] {
       std::memcpy(work.data(), source.data() + apart, work.size());
       work[work.size()] = '\0';
@@ -60,8 +60,8 @@ auto on_a_text(const std::string& part, Read read) {
 // What the rest is measured by.
 void register_machine() {
   grow("machine", "memcpy", [](std::size_t size) {
-    const std::string& from = keep(std::string(apart + size, 'm'));
     std::string& to = keep(std::string(size, ' '));
+    const std::string& from = keep(std::string(apart + size, 'm'));
     return
         [&from, &to] { return std::memcpy(to.data(), from.data() + apart, to.size()) != nullptr; };
   });

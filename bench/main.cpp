@@ -1,5 +1,5 @@
 // zeph_bench [--quick] [--all-peers] [--family=NAME] [--rows=TEXT] [--rounds=N] [--threads]
-//            [--json=FILE] [Google Benchmark's
+//            [--only-zeph] [--json=FILE] [Google Benchmark's
 // options]
 #include <cstdio>
 #include <string>
@@ -72,6 +72,8 @@ int main(int argc, char** argv) {
       options.quick = true;
     } else if (argument == "--all-peers") {
       options.all_peers = true;
+    } else if (argument == "--only-zeph") {
+      options.only_zeph = true;
     } else if (argument == "--threads") {
       threads = true;
     } else if (argument.substr(0, rows.size()) == rows) {

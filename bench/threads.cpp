@@ -136,8 +136,8 @@ double throughput(const Work& work, std::size_t count, std::chrono::milliseconds
 }  // namespace
 
 int run_threads(const RunOptions& options) {
-  const std::size_t rounds = options.quick ? 1 : 15;
-  const std::chrono::milliseconds length(options.quick ? 5 : 30);
+  const std::size_t rounds = options.quick ? 1 : 31;
+  const std::chrono::milliseconds length(options.quick ? 5 : 20);
   const std::string path = options.json.empty() ? "/dev/null" : options.json;
   JsonFile json(path);
   if (!json.open()) return 1;

@@ -19,6 +19,13 @@ AesContext g_aes = initial_context;
 
 // The branches cost less than a call through a pointer would, and leave no writable data behind.
 
+void ExpandKey(AesContext& context) {
+#ifdef ZEPH_HAS_AES_X86
+  if (has_aes_x86()) return expand_key_x86(context);
+#endif
+  context.KeyExpansion();
+}
+
 void EncryptBlocks(const unsigned char* in, unsigned char* out, std::size_t count) {
 #ifdef ZEPH_HAS_VAES_X86
   if (count > vaes_batch && has_vaes_x86()) return encrypt_blocks_vaes(in, out, count);

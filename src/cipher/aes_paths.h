@@ -12,6 +12,8 @@
 
 namespace zeph {
 
+class AesContext;
+
 void encrypt_blocks_portable(const unsigned char* in, unsigned char* out, std::size_t count);
 void decrypt_blocks_portable(const unsigned char* in, unsigned char* out, std::size_t count);
 
@@ -19,6 +21,7 @@ void decrypt_blocks_portable(const unsigned char* in, unsigned char* out, std::s
 inline bool has_aes_x86() {
   return __builtin_cpu_supports("aes") != 0;
 }
+void expand_key_x86(AesContext& context);
 void encrypt_blocks_x86(const unsigned char* in, unsigned char* out, std::size_t count);
 void decrypt_blocks_x86(const unsigned char* in, unsigned char* out, std::size_t count);
 #endif

@@ -2,6 +2,8 @@
 // several blocks are in flight at once.
 #include "cipher/aes_x86.h"
 
+#include <cstring>
+
 #include "cipher/aes_paths.h"
 
 namespace zeph {
@@ -106,7 +108,20 @@ template <typename Direction>
   keep_state(out - block_size);
 }
 
+// By the instruction that is made for it, of which the first word of the result is the S-box's of
+// the second word: no load depends on the key.
+[[gnu::target("aes")]] void substitute(unsigned char* word) {
+  std::int32_t bytes;
+  std::memcpy(&bytes, word, sizeof bytes);
+  bytes = _mm_cvtsi128_si32(_mm_aeskeygenassist_si128(_mm_set1_epi32(bytes), 0));
+  std::memcpy(word, &bytes, sizeof bytes);
+}
+
 }  // namespace
+
+void expand_key_x86(AesContext& context) {
+  context.ExpandKey(substitute);
+}
 
 void encrypt_blocks_x86(const unsigned char* in, unsigned char* out, std::size_t count) {
   if (count != 0) run_blocks(Encipher(), in, out, count);

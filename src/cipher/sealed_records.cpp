@@ -65,7 +65,7 @@ void reset_key(std::size_t size, const unsigned char* key) {
   fresh.Nk = static_cast<std::int32_t>(size / 4);
   fresh.Nr = fresh.Nk + 6;
   std::memcpy(fresh.key, key, size);
-  fresh.KeyExpansion();
+  ExpandKey(fresh);
   g_aes = fresh;
   wipe(&fresh, sizeof fresh);
 }
