@@ -48,9 +48,11 @@ build_all() {
   cmake --build "build/$1"
 }
 
+# build_and_test PRESET [EMULATOR...]: the tests, and the digest of the golden table.
 build_and_test() {
   build_all "$1"
   ctest --test-dir "build/$1" -j "$(nproc)" --output-on-failure --no-tests=error
+  "${@:2}" "build/$1/tools/zeph_golden" tests/golden.txt
 }
 
 # The tracked files of the given patterns.

@@ -4,16 +4,40 @@
 
 #include <clocale>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include "number/number_harness.h"
-#include "support/scoped_locale.h"
 #include "zeph.h"
 
 using namespace Orbane;
 using namespace zeph_test;
 
 namespace {
+
+// A locale for the length of a test, out of those that the build has made with localedef.
+class ScopedLocale {
+ public:
+  ScopedLocale(int category, const char* name) : category_(category) {
+#ifndef _WIN32
+    setenv("LOCPATH", ZEPH_LOCALES_DIR, 1);
+#endif
+    in_force_ = std::setlocale(category, name) != nullptr;
+  }
+  ~ScopedLocale() {
+    std::setlocale(category_, "C");
+  }
+  ScopedLocale(const ScopedLocale&) = delete;
+  ScopedLocale& operator=(const ScopedLocale&) = delete;
+
+  bool in_force() const {
+    return in_force_;
+  }
+
+ private:
+  int category_;
+  bool in_force_;
+};
 
 template <typename Fold>
 std::string folded(Fold fold, std::string text) {

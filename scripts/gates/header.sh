@@ -8,7 +8,9 @@ need_packages g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix
 for compiler in g++ clang++ x86_64-w64-mingw32-g++-posix i686-w64-mingw32-g++-posix; do
   for standard in 11 14 17 20 2b; do
     echo "$compiler -std=c++$standard"
-    "$compiler" -std=c++$standard -fsyntax-only -Wall -Wextra -Wpedantic -Wconversion -Werror \
-      -Iinclude -x c++ - <<<'#include <zeph.h>'
+    for include in -I -isystem; do
+      "$compiler" -std=c++$standard -fsyntax-only -Wall -Wextra -Wpedantic -Wconversion -Werror \
+        "$include" include -x c++ - <<<'#include <zeph.h>'
+    done
   done
 done

@@ -3,4 +3,4 @@
 . "$(dirname "${BASH_SOURCE[0]}")/../gate_lib.sh"
 
 need_packages g++-s390x-linux-gnu qemu-user-static googletest
-build_and_test s390x
+build_and_test s390x qemu-s390x-static -L /usr/s390x-linux-gnu

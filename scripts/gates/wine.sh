@@ -21,6 +21,7 @@ export WINEPATH
 for program in build/mingw64/tests/*_tests.exe; do
   wine "$program" --gtest_brief=1
 done
+wine build/mingw64/tools/zeph_golden.exe tests/golden.txt
 example=examples/equipment_log
 cmake -D HOST="wine;$root/build/mingw64/$example.exe" -D SOURCE="$root/$example" \
   -P "$example/check_host.cmake"

@@ -28,7 +28,7 @@ bool Zeph_Copy_Stack(char* target, const char* source, int size) {
 }
 
 bool Zeph_Copy_Stack(char* target, int value, int size) {
-  char digits[sizeof "-2147483648"];
+  char digits[sizeof "-2147483648"] = "";
   const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
   zeph::put_cut(target, digits, static_cast<std::size_t>(end - digits), size);
   return true;
