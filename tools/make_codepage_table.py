@@ -80,7 +80,7 @@ def make_table():
         f"units; {2 * sum(map(len, arrays.values()))} bytes"
     )
     head = (
-        f"// Written by scripts/{Path(__file__).name} from data/{DATA.name}. Do not edit.\n"
+        f"// Written by tools/{Path(__file__).name} from data/{DATA.name}. Do not edit.\n"
         f"// {counts}.\n"
         "// clang-format off\n"
         '#include "codepage/codepage_table.h"\n\n'

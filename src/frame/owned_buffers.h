@@ -45,10 +45,7 @@ class WorkBuffers {
     return true;
   }
   char* operator[](std::size_t index) const {
-    return blocks_[index];
-  }
-  const std::array<char*, count>& all() const {
-    return blocks_;
+    return blocks_.data()[index];
   }
 
  private:

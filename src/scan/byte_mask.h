@@ -59,7 +59,7 @@ std::uint64_t byte_mask_of_ends(const char* bytes, std::size_t size, char byte) 
     const auto places = [byte](const char* from) -> std::uint64_t {
       const __m128i word = load_word<half>(from);
       const int equal = _mm_movemask_epi8(_mm_cmpeq_epi8(word, sixteen_times(byte)));
-      return static_cast<unsigned>(equal) & ((1U << half) - 1);
+      return static_cast<unsigned>(equal) & ((std::uint64_t{1} << half) - 1);
     };
     return places(bytes) | places(tail) << (size - half);
   }
