@@ -1,4 +1,4 @@
-// Texts appended, printed and joined; owned and fixed buffers.
+// Texts appended, printed and joined; fixed buffers.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -156,46 +156,14 @@ void overlays(Draw& draw) {
   EXPECT_EQ(target.data(), own);
 }
 
-// An owned buffer through a row of calls.
-void owned_buffers(Draw& draw) {
-  char* block = nullptr;
-  std::string held;
-  for (int i = 0; i < 6; ++i) {
-    const std::string text = draw.text(40);
-    const int size = draw.between(1, 200);
-    switch (draw.below(3)) {
-      case 0:
-        EXPECT_TRUE(Zeph_Copy_Mem(&block, GuardedText(text).data()));
-        held = text;
-        break;
-      case 1: {
-        const bool kept = static_cast<std::size_t>(size) <= held.size() + 1 && block;
-        EXPECT_TRUE(Zeph_Prepare_Mem(&block, size));
-        if (!kept && std::string(block, static_cast<std::size_t>(size)).find_first_not_of('\0') ==
-                         std::string::npos) {
-          held.clear();
-        }
-        break;
-      }
-      default:
-        Zeph_Release_Mem(&block);
-        EXPECT_EQ(block, nullptr);
-        held.clear();
-    }
-    if (!block) continue;
-    EXPECT_EQ(Zeph_Get_Mem_Str(block), block);
-    EXPECT_EQ(block, held);
-    EXPECT_EQ(Zeph_Get_Mem_Size(block), static_cast<int>(held.size()));
-  }
-  Zeph_Release_Mem(&block);
-}
-
 }  // namespace
 
 Rules composition_rules() {
-  return {{"appended", appended},           {"printed to a size", printed_to_size},
-          {"joined alarms", joined_alarms}, {"fixed buffers", fixed_buffers},
-          {"overlays", overlays},           {"owned buffers", owned_buffers}};
+  return {{"appended", appended},
+          {"printed to a size", printed_to_size},
+          {"joined alarms", joined_alarms},
+          {"fixed buffers", fixed_buffers},
+          {"overlays", overlays}};
 }
 
 }  // namespace zeph_test

@@ -35,6 +35,7 @@ std::string opened(const std::string& record, std::size_t room, std::size_t resu
   const GuardedText from(record, End::bare);
   const GuardedBuffer text(room);
   EXPECT_EQ(Zeph_Decrypt(from.data(), text.data()), result);
+  EXPECT_EQ(Zeph_Decrypt(from.data(), nullptr), 0u);
   EXPECT_EQ(std::string(from.data(), from.size()), record) << "the record is only read";
   return {text.data(), room};
 }
@@ -46,6 +47,7 @@ void sealed_and_opened(Draw& draw) {
   const std::size_t length = (text.size() + 15) / 16 * 16, pads = length - text.size();
   const GuardedText from(text);
   const GuardedBuffer record(16 + length);
+  EXPECT_EQ(Zeph_Encrypt(from.data(), nullptr), 0u);
   EXPECT_EQ(Zeph_Encrypt(from.data(), record.data()), length);
   const std::string bytes(record.data(), record.size());
   EXPECT_EQ(bytes.substr(0, 16),

@@ -3,9 +3,7 @@
 
 #include <cerrno>
 #include <chrono>
-#include <cstdio>
 #include <cstdlib>
-#include <thread>
 
 #include "platform/platform.h"
 #include "platform/posix_table.h"
@@ -51,19 +49,6 @@ TEST(Posix, LocalTimeFollowsTheZone) {
     set_zone(row.zone);
     expect_offset(row.offset);
   });
-}
-
-TEST(Posix, LocalTimeFollowsSummerTimeWithinTheProcess) {
-  const time_t change = time(nullptr) + 2;
-  tm at{};
-  gmtime_r(&change, &at);
-  char rule[80];
-  std::snprintf(rule, sizeof rule, "WIN0SUM,%d/%d:%d:%d,%d/0", at.tm_yday, at.tm_hour, at.tm_min,
-                at.tm_sec, (at.tm_yday + 180) % 365);
-  set_zone(rule);
-  expect_offset(0);
-  std::this_thread::sleep_until(std::chrono::system_clock::from_time_t(change));
-  expect_offset(3600);
 }
 
 TEST(Posix, CapacityCoversTheRequest) {

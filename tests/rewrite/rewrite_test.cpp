@@ -64,17 +64,19 @@ TEST(Replace, TextsWithoutAnOccurrenceAreNotWritten) {
 
 TEST(Splicing, SizeBoundsTheText) {
   errno = 9;
-  const std::string longer(600, 'x');
+  const std::string longer(2100, 'x');
   EXPECT_EQ(Zeph_Splicing(4, "%s", "abcdef"), "abc");
   EXPECT_EQ(Zeph_Splicing(9, "a%cb", 0), "a") << "up to the first zero byte";
-  for (const int size : {511, 512, 513, 600, 601, 5000, INT_MAX}) {
+  for (const int size : {2047, 2048, 2049, 2100, 2101, 5000, INT_MAX}) {
     EXPECT_EQ(Zeph_Splicing(size, "%s", longer.c_str()),
               longer.substr(0, static_cast<std::size_t>(size) - 1))
         << size;
   }
-  EXPECT_EQ(Zeph_Splicing(900, "%s%c%s", longer.c_str(), 0, "y"), longer);
-  EXPECT_EQ(Zeph_Splicing(1000, "%s%ls", longer.c_str(), L"\x4E2D").substr(0, 600), longer)
-      << "a print that fails leaves what it has";
+  EXPECT_EQ(Zeph_Splicing(3000, "%s%c%s", longer.c_str(), 0, "y"), longer);
+  for (const int size : {1000, 3000}) {
+    EXPECT_EQ(Zeph_Splicing(size, "text%ls", L"\x4E2D").substr(0, 4), "text")
+        << "a print that fails leaves what it has";
+  }
   EXPECT_EQ(errno, 9);
   EXPECT_THROW(Zeph_Splicing(INT_MIN, "%d", 5), std::bad_alloc);
 }
