@@ -24,24 +24,6 @@ int format_bounded(char* buffer, std::size_t size, const char* format, ...) {
   return length;
 }
 
-int measure_format(const char* format, ...) {
-  std::va_list arguments;
-  va_start(arguments, format);
-  const int length = format_list_bounded(nullptr, 0, format, arguments);
-  va_end(arguments);
-  return length;
-}
-
-int format_strict(char* buffer, std::size_t size, const char* format, ...) {
-  std::va_list arguments;
-  va_start(arguments, format);
-  const int length = format_list_bounded(buffer, size, format, arguments);
-  va_end(arguments);
-  if (length >= 0 && static_cast<std::size_t>(length) < size) return length;
-  if (size > 0) buffer[0] = '\0';
-  return -1;
-}
-
 int scan_text(const char* text, const char* format, ...) {
   const ErrorStateKeeper keeper;
   std::va_list arguments;

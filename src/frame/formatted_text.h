@@ -16,14 +16,6 @@ namespace zeph {
 [[gnu::format(printf, 3, 0)]] int format_list_bounded(char* buffer, std::size_t size,
                                                       const char* format, std::va_list arguments);
 
-// Returns the length of the whole text, or -1 for any failure.
-[[gnu::format(printf, 1, 2)]] int measure_format(const char* format, ...);
-
-// Writes a text whose room was measured. Returns its length, or -1 if it does not fit, with the
-// empty text in the buffer.
-[[gnu::format(printf, 3, 4)]] int format_strict(char* buffer, std::size_t size, const char* format,
-                                                ...);
-
 // Reads values out of the byte text. Returns the number of fields converted.
 [[gnu::format(scanf, 2, 3)]] int scan_text(const char* text, const char* format, ...);
 
