@@ -1,7 +1,6 @@
-// zeph_soak CALLS: makes so many calls of all families in a random order, on texts of random
-// lengths, and prints the slowest call of each. Ends with 1 if the process takes more memory at the
-// end than after the first tenth.
-#include <algorithm>
+// zeph_soak CALLS: makes so many rounds of calls of all families in a random order, on texts of
+// random lengths, and prints the slowest round of each that was not interrupted. Ends with 1 if the
+// process takes more memory at the end than after the first tenth.
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
@@ -9,7 +8,12 @@
 #include <cstring>
 #include <fstream>
 #include <string>
+#include <utility>
 #include <vector>
+
+#ifndef _WIN32
+#include <sys/resource.h>
+#endif
 
 #include "zeph.h"
 
@@ -125,6 +129,20 @@ const Family families[] = {
 };
 constexpr std::size_t family_count = sizeof families / sizeof *families;
 
+// Whether the system has taken the processor away since the last question: what it did meanwhile is
+// no time of a call. Systems that do not tell are taken never to do so.
+bool was_interrupted() {
+#ifdef _WIN32
+  return false;
+#else
+  static long before = 0;
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  const long now = usage.ru_nivcsw + usage.ru_nvcsw;
+  return now != std::exchange(before, now);
+#endif
+}
+
 // The memory of the process in KiB; 0 where the system does not show it in this way.
 long resident() {
   long pages = 0;
@@ -149,7 +167,8 @@ int main(int argc, char** argv) {
     bench.draw();
     const Clock::time_point start = Clock::now();
     families[which].call(bench);
-    slowest[which] = std::max(slowest[which], Clock::now() - start);
+    const Clock::duration took = Clock::now() - start;
+    if (took > slowest[which] && !was_interrupted()) slowest[which] = took;
     ++made[which];
     if (i == calls / 10) early = resident();
   }
