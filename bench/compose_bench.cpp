@@ -38,14 +38,16 @@ void add_append_row(const char* operation, std::size_t size, Value value, const 
       .peer(peer, [start, value, append] { return append(start(), value), true; });
 }
 
+[[gnu::noinline]] void append_byte(char* text, char byte) {
+  char* const end = text + std::strlen(text);
+  end[0] = byte;
+  end[1] = '\0';
+}
+
 void add_append_rows(std::size_t size) {
   add_append_row("Zeph_Cat, 12 bytes", size, static_cast<const char*>("Pressure0.75"), "strcat",
                  [](char* text, const char* more) { std::strcat(text, more); });
-  add_append_row("Zeph_Cat, char", size, ';', "strlen, two bytes", [](char* text, char byte) {
-    char* const end = text + std::strlen(text);
-    end[0] = byte;
-    end[1] = '\0';
-  });
+  add_append_row("Zeph_Cat, char", size, ';', "strlen, two bytes", append_byte);
   add_append_row("Zeph_Cat, int", size, 421337, "strlen, sprintf", [](char* text, int value) {
     std::sprintf(text + std::strlen(text), "%d", value);
   });
@@ -100,19 +102,11 @@ void add_copy_rows(std::size_t size) {
   char*& block = keep(static_cast<char*>(nullptr));
   char*& own = keep(static_cast<char*>(nullptr));
   row("compose", "Zeph_Copy_Mem, Zeph_Release_Mem", size_text(size), size)
-      .reason("its block is one of calloc, as promised; that of strdup is not cleared first")
       .zeph([&text, &block] {
         const bool copied = Orbane::Zeph_Copy_Mem(&block, text.c_str());
         Orbane::Zeph_Release_Mem(&block);
         return copied;
       })
-      .peer("strdup, free",
-            [&text, &own] {
-              own = strdup(text.c_str());
-              benchmark::DoNotOptimize(own);
-              std::free(own);
-              return true;
-            })
       .peer("strlen, calloc, memcpy, free", [&text, &own] {
         const std::size_t bytes = std::strlen(text.c_str());
         own = static_cast<char*>(std::calloc(bytes + 1, 1));

@@ -28,7 +28,7 @@ std::string list_of(std::size_t items) {
   return text;
 }
 
-List split_by_getline(const std::string& text) {
+[[gnu::noinline]] List split_by_getline(const std::string& text) {
   List list;
   std::istringstream stream(text);
   for (std::string item; std::getline(stream, item, ',');) {
@@ -37,7 +37,7 @@ List split_by_getline(const std::string& text) {
   return list;
 }
 
-List split_by_find(const std::string& text) {
+[[gnu::noinline]] List split_by_find(const std::string& text) {
   List list;
   std::size_t from = 0;
   for (std::size_t to; (to = text.find(',', from)) != std::string::npos; from = to + 1) {
@@ -47,7 +47,7 @@ List split_by_find(const std::string& text) {
   return list;
 }
 
-std::string join_by_append(const List& list) {
+[[gnu::noinline]] std::string join_by_append(const List& list) {
   std::string text;
   for (const std::string& item : list) {
     if (!text.empty()) text += ',';
@@ -56,7 +56,7 @@ std::string join_by_append(const List& list) {
   return text;
 }
 
-int index_by_strtok(const std::string& text, const char* value) {
+[[gnu::noinline]] int index_by_strtok(const std::string& text, const char* value) {
   std::string copy = text;
   char* rest = copy.data();
   int index = 0;
@@ -66,7 +66,7 @@ int index_by_strtok(const std::string& text, const char* value) {
   return -1;
 }
 
-int index_by_walk(const char* text, const std::string& value) {
+[[gnu::noinline]] int index_by_walk(const char* text, const std::string& value) {
   for (int index = 0;; ++index) {
     const char* const end = strchrnul(text, ',');
     const auto size = static_cast<std::size_t>(end - text);
@@ -74,6 +74,14 @@ int index_by_walk(const char* text, const std::string& value) {
     if (*end == '\0') return -1;
     text = end + 1;
   }
+}
+
+[[gnu::noinline]] void cut_last_word(const char* text, char* field, char* head) {
+  const char* const at = std::strrchr(text, ' ');
+  const auto size = static_cast<std::size_t>(at - text);
+  std::strcpy(field, at + 1);
+  std::memcpy(head, text, size);
+  head[size] = '\0';
 }
 
 void add_list_rows(std::size_t items) {
@@ -124,17 +132,15 @@ void add_reverse_row(std::size_t size) {
   std::string& field = keep(std::string(size, '\0'));
   std::string& head = keep(std::string(size, '\0'));
   row("lists", "Zeph_Seperate_Reverse 2", std::to_string(size) + " bytes", size)
-      .zeph([&] {
-        Orbane::Zeph_Seperate_Reverse(copy.data(), field.data(), head.data());
-        return std::strlen(field.c_str()) + std::strlen(head.c_str());
+      .outputs([&] {
+        const std::string answer = std::string(field.c_str()) + '\n' + head.c_str();
+        field[0] = head[0] = '#';
+        return answer;
       })
-      .peer("strrchr + memcpy", [&] {
-        const char* const at = std::strrchr(text.c_str(), ' ');
-        std::strcpy(field.data(), at + 1);
-        std::memcpy(head.data(), text.c_str(), static_cast<std::size_t>(at - text.c_str()));
-        head[static_cast<std::size_t>(at - text.c_str())] = '\0';
-        return std::strlen(field.c_str()) + std::strlen(head.c_str());
-      });
+      .zeph(
+          [&] { return Orbane::Zeph_Seperate_Reverse(copy.data(), field.data(), head.data()), 0; })
+      .peer("strrchr + memcpy",
+            [&] { return cut_last_word(text.c_str(), field.data(), head.data()), 0; });
 }
 
 }  // namespace

@@ -67,32 +67,58 @@ const char* end_of(const std::string& text) {
   return text.data() + text.size();
 }
 
+// A number from a byte text, whose end has to be found, and from a String.
+template <typename Value>
+Value from_chars(const char* begin, const char* end) {
+  Value value = 0;
+  std::from_chars(begin, end, value);
+  return value;
+}
+template <typename Value>
+Value from_byte_text(const std::string& text) {
+  return from_chars<Value>(text.c_str(), text.c_str() + std::strlen(text.c_str()));
+}
+template <typename Value>
+Value from_string(const std::string& text) {
+  return from_chars<Value>(text.data(), end_of(text));
+}
+
 void add_integer_rows(const Batch& batch, const std::string& input) {
-  const auto zeph = [](const std::string& text) {
-    int value;
-    Orbane::Zeph_To_Int(text.c_str(), &value);
-    return static_cast<long>(value);
-  };
-  auto& integers = row("number", "Zeph_To_Int", input, total_size(batch));
-  integers.zeph(sum_of(batch, zeph))
+  row("number", "Zeph_To_Int", input, total_size(batch))
+      .zeph(sum_of(batch,
+                   [](const std::string& text) {
+                     int value;
+                     Orbane::Zeph_To_Int(text.c_str(), &value);
+                     return static_cast<long>(value);
+                   }))
       .peer("strtol",
             sum_of(batch,
                    [](const std::string& text) { return std::strtol(text.c_str(), nullptr, 10); }))
-      .peer("std::from_chars, length known", sum_of(batch,
-                                                    [](const std::string& text) {
-                                                      int value = 0;
-                                                      std::from_chars(text.data(), end_of(text),
-                                                                      value);
-                                                      return static_cast<long>(value);
-                                                    }))
-      .reason("the length is known to the peer, which is inlined; Zeph reads to the zero byte");
+      .peer("strlen, std::from_chars", sum_of(batch, [](const std::string& text) {
+              return static_cast<long>(from_byte_text<int>(text));
+            }));
+  auto& strings = row("number", "Zeph_To_Int String", input, total_size(batch));
+  strings
+      .zeph(sum_of(batch,
+                   [](const std::string& text) {
+                     int value;
+                     Orbane::Zeph_To_Int(text, &value);
+                     return static_cast<long>(value);
+                   }))
+      .peer("std::stoi",
+            sum_of(batch, [](const std::string& text) { return 0L + std::stoi(text); }))
+      .peer("std::from_chars", sum_of(batch,
+                                      [](const std::string& text) {
+                                        return static_cast<long>(from_string<int>(text));
+                                      }))
+      .reason("std::from_chars is compiled into the loop and stops at no zero byte");
 #if ZEPH_BENCH_HAS_ABSEIL
-  integers.peer("absl::SimpleAtoi", sum_of(batch, [](const std::string& text) {
-                  int value = 0;
-                  return absl::SimpleAtoi(text, &value) ? static_cast<long>(value) : -1L;
-                }));
+  strings.peer("absl::SimpleAtoi", sum_of(batch, [](const std::string& text) {
+                 int value = 0;
+                 return absl::SimpleAtoi(text, &value) ? static_cast<long>(value) : -1L;
+               }));
 #else
-  integers.missing_peer("abseil");
+  strings.missing_peer("abseil");
 #endif
   row("number", "Zeph_To_Int slice", input, total_size(batch))
       .zeph(sum_of(batch,
@@ -134,8 +160,9 @@ void add_hex_rows(const Batch& batch, const std::string& input) {
 }
 
 void add_real_rows(const Batch& batch, const std::string& input) {
-  Row& reals = row("number", "Zeph_To_Double", input, total_size(batch));
-  reals
+  const char* const reason = "it asks which decimal point the locale has; the peers take '.'";
+  Row& bytes = row("number", "Zeph_To_Double", input, total_size(batch));
+  bytes.reason(reason)
       .zeph(sum_of(batch,
                    [](const std::string& text) {
                      double value = 0;
@@ -145,28 +172,38 @@ void add_real_rows(const Batch& batch, const std::string& input) {
       .peer(
           "strtod",
           sum_of(batch, [](const std::string& text) { return std::strtod(text.c_str(), nullptr); }))
-      .peer("std::from_chars, length known", sum_of(batch, [](const std::string& text) {
-              double value = 0;
-              std::from_chars(text.data(), end_of(text), value);
-              return value;
-            }));
+      .peer("strlen, std::from_chars", sum_of(batch, from_byte_text<double>));
+  Row& strings = row("number", "Zeph_To_Double String", input, total_size(batch));
+  strings.reason(reason)
+      .zeph(sum_of(batch,
+                   [](const std::string& text) {
+                     double value = 0;
+                     Orbane::Zeph_To_Double(text, &value);
+                     return value;
+                   }))
+      .peer("std::stod", sum_of(batch, [](const std::string& text) { return std::stod(text); }))
+      .peer("std::from_chars", sum_of(batch, from_string<double>));
 #if ZEPH_BENCH_HAS_FAST_FLOAT
-  reals.peer("fast_float, length known", sum_of(batch, [](const std::string& text) {
-               double value = 0;
-               fast_float::from_chars(text.data(), end_of(text), value);
-               return value;
+  const auto fast = [](const char* begin, const char* end) {
+    double value = 0;
+    fast_float::from_chars(begin, end, value);
+    return value;
+  };
+  bytes.peer("strlen, fast_float", sum_of(batch, [fast](const std::string& text) {
+               return fast(text.c_str(), text.c_str() + std::strlen(text.c_str()));
              }));
+  strings.peer("fast_float", sum_of(batch, [fast](const std::string& text) {
+                 return fast(text.data(), end_of(text));
+               }));
 #else
-  reals.missing_peer("fast_float");
+  bytes.missing_peer("fast_float");
 #endif
 #if ZEPH_BENCH_HAS_ABSEIL
-  reals.peer("absl::SimpleAtod", sum_of(batch, [](const std::string& text) {
-               double value = 0;
-               return absl::SimpleAtod(text, &value) ? value : -1;
-             }));
+  strings.peer("absl::SimpleAtod", sum_of(batch, [](const std::string& text) {
+                 double value = 0;
+                 return absl::SimpleAtod(text, &value) ? value : -1;
+               }));
 #endif
-  reals.reason(
-      "Zeph finds the end of the text and asks for the locale; the peers know both beforehand");
 }
 
 struct Output {

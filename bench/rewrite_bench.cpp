@@ -5,6 +5,7 @@
 #include <regex>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "bench.h"
 #include "zeph.h"
@@ -153,31 +154,48 @@ std::string dump_by_snprintf(const std::string& bytes) {
 void add_dump_row(std::size_t size) {
   std::string& bytes = keep(std::string());
   for (std::size_t i = 0; i < size; ++i) bytes.push_back(static_cast<char>(i * 37));
-  char*& block = keep(static_cast<char*>(nullptr));
-  std::string& room = keep(std::string(3 * size + 1, '\0'));
+  struct Dump {
+    char* block = nullptr;
+    std::string own, room;
+    const char* shown = "";
+  };
+  Dump& d = keep(Dump());
+  d.room.resize(3 * size + 1);
   auto& dump = row("rewrite", "Zeph_To_Ascii to a buffer", size_text(size), size);
-  dump.zeph([&] {
-        return std::string_view(
-            Orbane::Zeph_To_Ascii(bytes.data(), static_cast<int>(bytes.size()), &block));
+  dump.outputs([&d] { return std::string(std::exchange(d.shown, "none")); })
+      .zeph([&d, &bytes] {
+        d.shown = Orbane::Zeph_To_Ascii(bytes.data(), static_cast<int>(bytes.size()), &d.block);
+        return 0;
       })
-      .peer("byte loop", [&] { return dump_by_digits(bytes); })
-      .peer("snprintf", [&] { return dump_by_snprintf(bytes); });
+      .peer("byte loop",
+            [&d, &bytes] {
+              d.own = dump_by_digits(bytes);
+              d.shown = d.own.c_str();
+              return 0;
+            })
+      .peer("snprintf", [&d, &bytes] {
+        d.own = dump_by_snprintf(bytes);
+        d.shown = d.own.c_str();
+        return 0;
+      });
 #if ZEPH_BENCH_HAS_OPENSSL
-  dump.peer("OPENSSL_buf2hexstr_ex", [&bytes, &room] {
+  dump.peer("OPENSSL_buf2hexstr_ex", [&d, &bytes] {
     std::size_t length = 0;
-    OPENSSL_buf2hexstr_ex(room.data(), room.size(), &length,
+    OPENSSL_buf2hexstr_ex(d.room.data(), d.room.size(), &length,
                           reinterpret_cast<const unsigned char*>(bytes.data()),
                           static_cast<long>(bytes.size()), ' ');
-    return std::string_view(room.c_str());
+    d.shown = d.room.c_str();
+    return 0;
   });
 #else
-  static_cast<void>(room);
   dump.missing_peer("OpenSSL");
 #endif
 #if ZEPH_BENCH_HAS_FMT
-  dump.peer("fmt::format", [&bytes] {
+  dump.peer("fmt::format", [&d, &bytes] {
     const auto* const from = reinterpret_cast<const unsigned char*>(bytes.data());
-    return fmt::format("{:02X}", fmt::join(from, from + bytes.size(), " "));
+    d.own = fmt::format("{:02X}", fmt::join(from, from + bytes.size(), " "));
+    d.shown = d.own.c_str();
+    return 0;
   });
 #else
   dump.missing_peer("fmt");

@@ -1,7 +1,9 @@
 // Slices, what stands around a marker, names behind a path and marks taken off, against the members
 // of std::string and the C library.
+#include <algorithm>
 #include <cstring>
 #include <string>
+#include <string_view>
 
 #include "bench.h"
 #include "zeph.h"
@@ -14,6 +16,62 @@ struct Marked {
   char bytes[1 << 17];
 };
 
+// ---- the peers ----
+
+[[gnu::noinline]] bool slice(const char* text, std::size_t from, std::size_t count, char* out) {
+  if (std::strlen(text) <= from) return false;
+  std::memcpy(out, text + from, count);
+  out[count] = '\0';
+  return true;
+}
+
+[[gnu::noinline]] int name_of(char* out, const char* path, std::size_t room) {
+  const char* const slash = std::strrchr(path, '/');
+  const char* const other = std::strrchr(path, '\\');
+  const char* const name = std::max({path, slash ? slash + 1 : path, other ? other + 1 : path});
+  const std::size_t size = std::min(std::strlen(name), room);
+  std::memcpy(out, name, size);
+  out[size] = '\0';
+  return 0;
+}
+
+[[gnu::noinline]] int name_of_view(char* out, std::string_view path, std::size_t room) {
+  const std::size_t at = path.find_last_of("/\\");
+  const std::size_t size = path.substr(at == path.npos ? 0 : at + 1).copy(out, room);
+  out[size] = '\0';
+  return 0;
+}
+
+template <typename Marker>
+[[gnu::noinline]] int right_of(const std::string& text, const Marker& marker, std::size_t size,
+                               std::string& out) {
+  const std::size_t at = text.rfind(marker);
+  out.assign(text, at == std::string::npos ? 0 : at + size, std::string::npos);
+  return 0;
+}
+
+[[gnu::noinline]] int left_of(const std::string& text, const std::string& marker,
+                              std::string& out) {
+  return out.assign(text, 0, text.find(marker)), 0;
+}
+
+[[gnu::noinline]] bool between(const std::string& text, char open, char close, std::string& out) {
+  const std::size_t from = text.find(open), to = text.find(close);
+  if (from == std::string::npos || to == std::string::npos || from >= to) return false;
+  out.assign(text, from + 1, to - from - 1);
+  return true;
+}
+
+[[gnu::noinline]] int without_marks(char* bytes) {
+  std::size_t size = std::strlen(bytes);
+  const auto is_mark = [](char byte) { return byte == '"' || byte == '\''; };
+  if (size > 0 && is_mark(bytes[0])) std::memmove(bytes, bytes + 1, size--);
+  if (size > 0 && is_mark(bytes[size - 1])) bytes[size - 1] = '\0';
+  return 0;
+}
+
+// ---- the rows ----
+
 void add_byte_rows(Marked& m, const std::string& input) {
   const int third = static_cast<int>(m.text.size() / 3);
   row("slices", "Zeph_Get_SubString", input, m.text.size())
@@ -21,22 +79,15 @@ void add_byte_rows(Marked& m, const std::string& input) {
       .zeph(
           [&m, third] { return Orbane::Zeph_Get_SubString(m.text.c_str(), third, third, m.bytes); })
       .peer("strlen, memcpy", [&m, third] {
-        const auto from = static_cast<std::size_t>(third);
-        if (std::strlen(m.text.c_str()) <= from) return false;
-        std::memcpy(m.bytes, m.text.c_str() + from, from);
-        m.bytes[from] = '\0';
-        return true;
+        const auto size = static_cast<std::size_t>(third);
+        return slice(m.text.c_str(), size, size, m.bytes);
       });
   row("slices", "Zeph_Ext_Name_From_FullPath", input, m.text.size())
       .outputs([&m] { return std::string(m.bytes); })
       .zeph(
           [&m] { return Orbane::Zeph_Ext_Name_From_FullPath(m.bytes, m.text.c_str(), 131071), 0; })
-      .reason("it looks for two separators and cuts at a size; strrchr looks for one")
-      .peer("strrchr, strcpy", [&m] {
-        const char* const slash = std::strrchr(m.text.c_str(), '/');
-        std::strcpy(m.bytes, slash ? slash + 1 : m.text.c_str());
-        return 0;
-      });
+      .peer("two of strrchr, memcpy", [&m] { return name_of(m.bytes, m.text.c_str(), 131071); })
+      .peer("find_last_of, copy", [&m] { return name_of_view(m.bytes, m.text.c_str(), 131071); });
 }
 
 void add_string_rows(Marked& m, const std::string& input) {
@@ -44,32 +95,20 @@ void add_string_rows(Marked& m, const std::string& input) {
   row("slices", "Zeph_Right, a byte", input, m.text.size())
       .outputs(read)
       .zeph([&m] { return Orbane::Zeph_Right(m.text, '/', m.out), 0; })
-      .peer("rfind, assign", [&m] {
-        const std::size_t at = m.text.rfind('/');
-        m.out.assign(m.text, at == std::string::npos ? 0 : at + 1, std::string::npos);
-        return 0;
-      });
+      .peer("rfind, assign", [&m] { return right_of(m.text, '/', 1, m.out); });
   static const std::string marker = "=>";
   row("slices", "Zeph_Right, a text", input, m.text.size())
       .outputs(read)
       .zeph([&m] { return Orbane::Zeph_Right(m.text, marker, m.out), 0; })
-      .peer("rfind, assign", [&m] {
-        const std::size_t at = m.text.rfind(marker);
-        m.out.assign(m.text, at == std::string::npos ? 0 : at + 2, std::string::npos);
-        return 0;
-      });
+      .peer("rfind, assign", [&m] { return right_of(m.text, marker, 2, m.out); });
   row("slices", "Zeph_Left, a text", input, m.text.size())
       .outputs(read)
       .zeph([&m] { return Orbane::Zeph_Left(m.text, marker, m.out), 0; })
-      .peer("find, assign", [&m] { return m.out.assign(m.text, 0, m.text.find(marker)), 0; });
+      .peer("find, assign", [&m] { return left_of(m.text, marker, m.out); });
   row("slices", "Zeph_Get_SubString, between", input, m.text.size())
       .outputs(read)
       .zeph([&m] { return Orbane::Zeph_Get_SubString(m.text, '[', ']', m.out); })
-      .peer("find, assign", [&m] {
-        const std::size_t from = m.text.find('['), to = m.text.find(']', from);
-        m.out.assign(m.text, from + 1, to - from - 1);
-        return true;
-      });
+      .peer("find, assign", [&m] { return between(m.text, '[', ']', m.out); });
 }
 
 void add_mark_row(const char* text) {
@@ -85,14 +124,7 @@ void add_mark_row(const char* text) {
   row("slices", "copy, Zeph_Remove_QuoteMark", std::to_string(line.source.size()) + " bytes", 0)
       .outputs([&line] { return std::string(line.bytes); })
       .zeph([fresh] { return Orbane::Zeph_Remove_QuoteMark(fresh()), 0; })
-      .peer("tests, strlen, memmove", [fresh] {
-        char* const bytes = fresh();
-        std::size_t size = std::strlen(bytes);
-        const auto is_mark = [](char byte) { return byte == '"' || byte == '\''; };
-        if (size > 0 && is_mark(bytes[0])) std::memmove(bytes, bytes + 1, size--);
-        if (size > 0 && is_mark(bytes[size - 1])) bytes[size - 1] = '\0';
-        return 0;
-      });
+      .peer("tests, strlen, memmove", [fresh] { return without_marks(fresh()); });
 }
 
 }  // namespace

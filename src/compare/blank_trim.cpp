@@ -23,9 +23,9 @@ Kept without_tail(const char* text, std::size_t size) {
   return {0, size - run_at_back(text, size, blank)};
 }
 
-// A text of blanks has lost all of them at its head.
-Kept without_both(const char* text, std::size_t size) {
-  const std::size_t begin = run_at_front(text, size, blank);
+// `begin` blanks at the front are known. A text of blanks has lost all of them at its head.
+Kept without_both(const char* text, std::size_t size, std::size_t begin) {
+  begin += run_at_front(text + begin, size - begin, blank);
   return {begin, size - run_at_back(text + begin, size - begin, blank)};
 }
 
@@ -84,12 +84,15 @@ void Zeph_Del_HeadSpace(std::string& text) {
 }
 
 void Zeph_Trimed(char* text) {
-  const std::size_t size = std::strlen(text);
-  zeph::keep_in_text(text, size, zeph::without_both(text, size));
+  // A few blanks at the front are passed before the end is looked for, from behind them on.
+  std::size_t begin = 0;
+  while (begin < zeph::near_run && text[begin] == zeph::blank) ++begin;
+  const std::size_t size = begin + std::strlen(text + begin);
+  zeph::keep_in_text(text, size, zeph::without_both(text, size, begin));
 }
 
 void Zeph_Trimed(std::string& text) {
-  zeph::keep_in_string(text, zeph::without_both(text.data(), text.size()));
+  zeph::keep_in_string(text, zeph::without_both(text.data(), text.size(), 0));
 }
 
 }  // namespace Orbane

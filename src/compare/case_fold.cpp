@@ -8,13 +8,19 @@ namespace zeph {
 namespace {
 
 // Shorter texts are folded byte by byte in less time than it takes to look at the locale.
-constexpr std::size_t worth_a_look = 16;
+constexpr std::size_t worth_a_look = 12;
 
 // `out` may be `from`.
 void put_fold(LetterCase to, char* out, const char* from, std::size_t size) {
   if (size >= worth_a_look && locale_folds_ascii(to)) return put_ascii_fold(to, out, from, size);
   const LocaleFold fold(to);
-  for (std::size_t i = 0; i < size; ++i) out[i] = fold(from[i]);
+  std::size_t i = 0;
+  for (; size - i >= 4; i += 4) {
+    const char a = fold(from[i]), b = fold(from[i + 1]);
+    const char c = fold(from[i + 2]), d = fold(from[i + 3]);
+    out[i] = a, out[i + 1] = b, out[i + 2] = c, out[i + 3] = d;
+  }
+  for (; i < size; ++i) out[i] = fold(from[i]);
 }
 
 void fold_text(LetterCase to, const char* source, char* target) {

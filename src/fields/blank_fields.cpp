@@ -23,7 +23,7 @@ const char* skip_blanks(const char* text) {
 // From wherever a field starts, a split reads at least `limit` bytes or up to the terminator: no
 // field ends it before it has seen that many. So they are there to be looked at.
 template <typename Sink>
-const char* put_near_fields(Sink& fields, const char* text) {
+inline const char* put_near_fields(Sink& fields, const char* text) {
   const std::size_t most = std::min(fields.limit(), mask_bytes + 1);
   const std::size_t size = strnlen(text, most);
   const char* from = text;
@@ -41,14 +41,38 @@ const char* put_near_fields(Sink& fields, const char* text) {
   return nullptr;
 }
 
-// The core of Zeph_Seperate: one pass, which stops at the byte that fills a middle or the last
-// field.
+// The first field may be longer than the limit. Returns where the second one starts.
 template <typename Sink>
-void split_blank_fields(const char* text, Sink& fields) {
-  const std::size_t limit = fields.limit(), count = fields.left();
-  if (limit == 0) return fields.put_empty();
-  // A look pays if it may find two blanks, and for as long as fields are short.
-  if (count > 2) {
+inline const char* put_first_field(Sink& fields, const char* text, std::size_t& size) {
+  const char* const end = find_byte_or_end(text, blank);
+  fields.put(text, end);
+  size = static_cast<std::size_t>(end - text);
+  return skip_blanks(end);
+}
+
+// Puts all fields behind the first, which had `size` bytes; others are often about as long.
+template <typename Sink>
+inline void put_fields_singly(Sink fields, const char* text, std::size_t size) {
+  const std::size_t limit = fields.limit();
+  while (fields.left() > 1) {
+    const char* const end = find_byte_or_end(text, blank, limit, 256 + size);
+    fields.put(text, end);
+    size = static_cast<std::size_t>(end - text);
+    if (size == limit) return fields.put_empty();
+    text = skip_blanks(end);
+  }
+  fields.put(text, text + strnlen(text, limit));
+}
+
+// The core of Zeph_Seperate: one pass, which stops at the byte that fills a middle or the last
+// field. `Sink` is a writer, or a reference to what the caller looks at afterwards. A look pays if
+// it may find several blanks, and for as long as fields are short, which the first one tells.
+template <std::size_t count, typename Sink>
+void split_blank_fields(const char* text, Sink fields) {
+  if (fields.limit() == 0) return fields.put_empty();
+  std::size_t size;
+  text = put_first_field(fields, text, size);
+  if (count > 3 && size <= 32) {
     const char* before;
     do {
       before = text;
@@ -56,30 +80,21 @@ void split_blank_fields(const char* text, Sink& fields) {
       if (!text) return;
     } while (text != before && fields.left() > 2);
   }
-  if (fields.left() == count) {
-    const char* const end = find_byte_or_end(text, blank);
-    fields.put(text, end);
-    text = skip_blanks(end);
-  }
-  while (fields.left() > 1) {
-    const char* const end = find_byte_or_end(text, blank, limit);
-    fields.put(text, end);
-    if (static_cast<std::size_t>(end - text) == limit) return fields.put_empty();
-    text = skip_blanks(end);
-  }
-  fields.put(text, text + strnlen(text, limit));
+  put_fields_singly<Sink>(fields, text, size);
 }
 
 template <typename... Outputs>
 void split_blank_bytes(const char* text, int limit, Outputs... outputs) {
+  constexpr std::size_t count = sizeof...(Outputs);
   char* const rooms[] = {outputs...};
-  FieldWriter writer({rooms, sizeof...(Outputs)}, field_limit(limit));
-  split_blank_fields(text, writer);
+  split_blank_fields<count>(text, FieldWriter(rooms, field_limit(limit)));
 }
 
 template <typename... Outputs>
 void split_blank_string(const std::string& text, int limit, Outputs&... outputs) {
-  const auto split = [](const char* bytes, auto& fields) { split_blank_fields(bytes, fields); };
+  const auto split = [](const char* bytes, auto& fields) {
+    split_blank_fields<sizeof...(Outputs), decltype(fields)>(bytes, fields);
+  };
   split_into_strings(text, limit, split, outputs...);
 }
 

@@ -13,7 +13,7 @@ namespace {
 // Puts the fields that end within the next bytes of the text, all found by one look. Returns where
 // the next field starts, or NULL if the text ended and all fields are put.
 template <typename Sink>
-const char* put_near_fields(Sink& fields, const char* text, char delimiter) {
+inline const char* put_near_fields(Sink& fields, const char* text, char delimiter) {
   const std::size_t size = strnlen(text, mask_bytes + 1);
   const char* from = text;
   std::uint64_t places = byte_mask(text, std::min(size, mask_bytes), delimiter);
@@ -28,18 +28,10 @@ const char* put_near_fields(Sink& fields, const char* text, char delimiter) {
   return nullptr;
 }
 
-// The core of Zeph_Seperate_Char: one pass; a zero delimiter is never found.
+// The core of Zeph_Seperate_Char: one pass; a zero delimiter is never found. `Sink` is a writer, or
+// a reference to what the caller looks at afterwards.
 template <typename Sink>
-void split_char_fields(const char* text, char delimiter, Sink& fields) {
-  // A look pays if it may find two delimiters, and for as long as fields are short.
-  if (fields.left() > 2) {
-    const char* before;
-    do {
-      before = text;
-      text = put_near_fields(fields, text, delimiter);
-      if (!text) return;
-    } while (text != before && fields.left() > 2);
-  }
+inline void split_fields_singly(const char* text, char delimiter, Sink fields) {
   while (fields.left() > 1) {
     const char* const end = find_byte_or_end(text, delimiter);
     fields.put(text, end);
@@ -49,17 +41,44 @@ void split_char_fields(const char* text, char delimiter, Sink& fields) {
   fields.put(text, text + strnlen(text, fields.limit()));
 }
 
+// The same for more than three fields: a look pays if it may find several delimiters, and for as
+// long as fields are short, which the first one tells.
+template <typename Sink>
+void split_many_fields(const char* text, char delimiter, Sink fields) {
+  for (;;) {
+    const char* const before = text;
+    const char* const end = find_byte_or_end(text, delimiter);
+    fields.put(text, end);
+    if (*end == '\0') return fields.put_empty();
+    text = end + 1;
+    if (end - before > 32 || fields.left() < 3) break;
+    text = put_near_fields(fields, text, delimiter);
+    if (!text) return;
+    if (fields.left() < 3) break;
+  }
+  split_fields_singly<Sink>(text, delimiter, fields);
+}
+
+template <std::size_t count, typename Sink>
+void split_char_fields(const char* text, char delimiter, Sink fields) {
+  if constexpr (count < 4) {
+    split_fields_singly<Sink>(text, delimiter, fields);
+  } else {
+    split_many_fields<Sink>(text, delimiter, fields);
+  }
+}
+
 template <typename... Outputs>
 void split_char_bytes(const char* text, char delimiter, int limit, Outputs... outputs) {
+  constexpr std::size_t count = sizeof...(Outputs);
   char* const rooms[] = {outputs...};
-  FieldWriter writer({rooms, sizeof...(Outputs)}, field_limit(limit));
-  split_char_fields(text, delimiter, writer);
+  split_char_fields<count>(text, delimiter, FieldWriter(rooms, field_limit(limit)));
 }
 
 template <typename... Outputs>
 void split_char_string(const std::string& text, char delimiter, int limit, Outputs&... outputs) {
   const auto split = [delimiter](const char* bytes, auto& fields) {
-    split_char_fields(bytes, delimiter, fields);
+    split_char_fields<sizeof...(Outputs), decltype(fields)>(bytes, delimiter, fields);
   };
   split_into_strings(text, limit, split, outputs...);
 }

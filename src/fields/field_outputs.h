@@ -13,12 +13,6 @@
 
 namespace zeph {
 
-// The outputs of one split in field order, each with room for limit + 1 bytes.
-struct FieldOutputs {
-  char* const* fields;
-  std::size_t count;  // 2 to 5
-};
-
 // The content that one field may hold: a limit below 0 is 0.
 constexpr std::size_t field_limit(int limit) {
   return limit < 0 ? 0 : static_cast<std::size_t>(limit);
@@ -34,17 +28,14 @@ inline void put_field(char* out, const char* from, const char* end, std::size_t 
   out[size] = '\0';
 }
 
-// Makes every field from number `first` (from 0) on the empty text.
-inline void clear_fields(FieldOutputs outputs, std::size_t first) {
-  for (std::size_t i = first; i < outputs.count; ++i) outputs.fields[i][0] = '\0';
-}
-
-// Takes the fields of one split, the first one first, to byte outputs. The last output may be the
-// text itself: by then the splitter has read all that it reads.
+// Takes the fields of one split, the first one first, to byte outputs in field order, each with
+// room for limit + 1 bytes. The last output may be the text itself: by then the splitter has read
+// all that it reads.
 class FieldWriter {
  public:
-  FieldWriter(FieldOutputs outputs, std::size_t limit)
-      : next_(outputs.fields), end_(outputs.fields + outputs.count), limit_(limit) {}
+  template <std::size_t count>
+  FieldWriter(char* const (&outputs)[count], std::size_t limit)
+      : next_(outputs), end_(outputs + count), limit_(limit) {}
 
   std::size_t limit() const {
     return limit_;

@@ -11,35 +11,33 @@ namespace {
 
 // The core of both names. Output 1 takes the rightmost field; the last output takes the remainder
 // and may be the text itself, which is then cut in place.
-void split_reverse(char* text, char separator, SeparatorRun run, FieldOutputs outputs) {
-  const std::size_t last = outputs.count - 1;
+template <SeparatorRun run, std::size_t count>
+inline void split_reverse(char* text, char separator, char* const (&outputs)[count]) {
   std::size_t end = std::strlen(text);
   std::size_t k = 0;
-  while (k < last) {
+  while (k + 1 < count) {
     std::size_t at = behind_last(text, end, separator);
     if (at == 0) break;
-    put_field(outputs.fields[k++], text + at, text + end, end);
+    put_field(outputs[k++], text + at, text + end, end);
     --at;
     end = run == SeparatorRun::one_separator ? at - run_at_back(text, at, separator) : at;
   }
-  if (outputs.fields[k] == text) {
+  if (outputs[k] == text) {
     text[end] = '\0';
   } else {
-    put_field(outputs.fields[k], text, text + end, end);
+    put_field(outputs[k], text, text + end, end);
   }
-  clear_fields(outputs, k + 1);
+  while (++k < count) outputs[k][0] = '\0';
 }
 
 template <typename... Outputs>
 void split_blank_reverse(char* text, Outputs... outputs) {
-  char* const fields[] = {outputs...};
-  split_reverse(text, ' ', SeparatorRun::one_separator, {fields, sizeof...(Outputs)});
+  split_reverse<SeparatorRun::one_separator, sizeof...(Outputs)>(text, ' ', {outputs...});
 }
 
 template <typename... Outputs>
 void split_char_reverse(char* text, char delimiter, Outputs... outputs) {
-  char* const fields[] = {outputs...};
-  split_reverse(text, delimiter, SeparatorRun::each_cuts, {fields, sizeof...(Outputs)});
+  split_reverse<SeparatorRun::each_cuts, sizeof...(Outputs)>(text, delimiter, {outputs...});
 }
 
 }  // namespace

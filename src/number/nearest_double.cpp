@@ -1,33 +1,14 @@
 #include "number/nearest_double.h"
 
-#include <cfloat>
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
-#include <limits>
 
 #include "number/powers_of_ten.h"
 #include "platform/platform.h"
 
 namespace zeph {
 namespace {
-
-static_assert(std::numeric_limits<double>::is_iec559 && DBL_MANT_DIG == 53);
-
-// The powers of ten that are doubles exactly.
-constexpr double small_powers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                   1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                   1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-
-// word * 10^exponent where both are doubles exactly: their one product or quotient is rounded once.
-// A processor that calculates with more bits than a double has would round twice.
-inline bool scale_small(std::uint64_t word, std::int64_t exponent, double& value) {
-  if (FLT_EVAL_METHOD != 0 || word > std::uint64_t{1} << DBL_MANT_DIG) return false;
-  if (exponent < -22 || exponent > 22) return false;
-  const auto number = static_cast<double>(word);
-  value = exponent < 0 ? number / small_powers[-exponent] : number * small_powers[exponent];
-  return true;
-}
 
 // word * 10^exponent by 192 bits of the product, for normal doubles. The power is cut off behind
 // 128 bits, so that the exact product lies at most two units of `low` higher (four after a shift):
@@ -65,17 +46,17 @@ inline bool scale_wide(std::uint64_t word, std::int64_t exponent, double& value)
 
 }  // namespace
 
-double nearest_double(const char* begin, const char* end) {
+// Rare: it stays out of the way of the others, who need no room on the stack.
+[[gnu::cold, gnu::noinline]] double nearest_double(const char* begin, const char* end) {
   double value = 0.0;
   if (std::from_chars(begin, end, value).ec == std::errc()) return value;
   const ErrorStateKeeper keeper;
   return std::strtod(begin, nullptr);  // infinity or 0.0: no double comes near
 }
 
-double nearest_double(std::uint64_t word, std::int64_t exponent, const char* begin,
-                      const char* end) {
+double nearest_wide_double(std::uint64_t word, std::int64_t exponent, const char* begin,
+                           const char* end) {
   double value;
-  if (scale_small(word, exponent, value)) return value;
   if (word != 0 && scale_wide(word, exponent, value)) return value;
   return nearest_double(begin, end);
 }

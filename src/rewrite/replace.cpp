@@ -11,6 +11,7 @@
 #include "frame/owned_buffers.h"
 #include "scan/find_needle.h"
 #include "scan/move_bytes.h"
+#include "scan/remove_byte.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -23,30 +24,6 @@ using View = std::string_view;
 void replace_bytes(char* text, std::size_t size, char find, char replacement) {
   std::size_t i = View(text, size).find(find);
   for (; i < size; ++i) text[i] = text[i] == find ? replacement : text[i];
-}
-
-// Moves the bytes that stay to the front; returns how many they are. A far byte is looked for wide
-// and what lies in front of it moved in one piece; where they stand close together each byte is
-// stored, kept or not, which costs no branch.
-std::size_t remove_bytes(char* text, std::size_t size, char byte) {
-  constexpr std::size_t near = 32;
-  std::size_t kept = View(text, size).find(byte);
-  if (kept == View::npos) return size;
-  for (std::size_t i = kept; i < size;) {
-    const std::size_t dense = std::min(near, size - i);
-    const std::size_t before = kept;
-    for (const std::size_t end = i + dense; i < end; ++i) {
-      const char next = text[i];
-      text[kept] = next;
-      kept += next != byte;
-    }
-    if (kept - before != dense) continue;
-    const std::size_t run = std::min(View(text + i, size - i).find(byte), size - i);
-    std::memmove(text + kept, text + i, run);
-    kept += run;
-    i += run;
-  }
-  return kept;
 }
 
 // The next occurrence. Where they stand close together, a look at the first bytes is cheaper than
@@ -312,7 +289,7 @@ void Zeph_Remove(char* text, const char* pattern) {
 }
 
 void Zeph_Remove(std::string& text, char byte) {
-  if (byte != '\0') text.resize(zeph::remove_bytes(text.data(), text.size(), byte));
+  if (byte != '\0') text.resize(zeph::remove_byte(text.data(), text.size(), byte));
 }
 
 }  // namespace Orbane

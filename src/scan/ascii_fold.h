@@ -4,6 +4,9 @@
 #define ZEPH_SCAN_ASCII_FOLD_H
 
 #include <cstddef>
+#include <cstring>
+
+#include "scan/wide.h"
 
 namespace zeph {
 
@@ -20,12 +23,68 @@ constexpr char ascii_fold(LetterCase to, char byte) {
 }
 
 // Writes the `size` bytes of `from` to `out` in the given case. `out` may be `from`; other overlaps
-// are not allowed.
-void put_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size);
+// are not allowed. A short text costs no call.
+inline void put_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size);
 
 // The twins, with the same promise; that of AVX2 where the build has it, for at least 64 bytes.
 void put_ascii_fold_portable(LetterCase to, char* out, const char* from, std::size_t size);
 void put_ascii_fold_avx2(LetterCase to, char* out, const char* from, std::size_t size);
+
+#ifdef ZEPH_SCAN_SSE2
+
+inline void store_16(char* out, __m128i bytes) {
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(out), bytes);
+}
+
+// Sizes from `half` to twice as many, which are 4 to 16. The two halves of a piece are both loaded
+// before one is stored, since `out` may be `from`.
+template <std::size_t half>
+void put_short_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size) {
+  __m128i head = _mm_setzero_si128(), tail = head;
+  std::memcpy(&head, from, half);
+  std::memcpy(&tail, from + size - half, half);
+  const char first = first_folded(to);
+  const __m128i folded = _mm_unpacklo_epi64(other_case_16(head, first), other_case_16(tail, first));
+  char both[16];
+  store_16(both, folded);
+  std::memcpy(out, both, half);
+  std::memcpy(out + size - half, both + 8, half);
+}
+
+// Sizes from 16 on.
+inline void put_ascii_fold_16(LetterCase to, char* out, const char* from, std::size_t size) {
+  const char first = first_folded(to);
+  const __m128i tail = load_16(from + size - 16);
+  for (std::size_t i = 0; i + 16 < size; i += 16) {
+    store_16(out + i, other_case_16(load_16(from + i), first));
+  }
+  store_16(out + size - 16, other_case_16(tail, first));
+}
+
+// Sizes from 64 on, as wide as the processor allows.
+void put_long_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size);
+
+inline void put_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size) {
+  if (size > 64) {
+    put_long_ascii_fold(to, out, from, size);
+  } else if (size >= 16) {
+    put_ascii_fold_16(to, out, from, size);
+  } else if (size >= 8) {
+    put_short_ascii_fold<8>(to, out, from, size);
+  } else if (size >= 4) {
+    put_short_ascii_fold<4>(to, out, from, size);
+  } else {
+    put_ascii_fold_portable(to, out, from, size);
+  }
+}
+
+#else
+
+inline void put_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size) {
+  put_ascii_fold_portable(to, out, from, size);
+}
+
+#endif
 
 }  // namespace zeph
 

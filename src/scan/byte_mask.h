@@ -84,9 +84,12 @@ inline std::uint64_t byte_mask(const char* bytes, std::size_t size, char byte) {
 #endif
 }
 
-// The place of the lowest bit of a mask that is not 0.
+// The place of the lowest and of the highest bit of a mask that is not 0.
 inline std::size_t lowest_place(std::uint64_t mask) {
   return static_cast<std::size_t>(__builtin_ctzll(mask));
+}
+inline std::size_t highest_place(std::uint64_t mask) {
+  return static_cast<std::size_t>(63 - __builtin_clzll(mask));
 }
 
 }  // namespace zeph

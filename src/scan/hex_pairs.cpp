@@ -37,13 +37,7 @@ void put_hex_pairs_portable(HexDigits digits, char* out, const char* bytes, std:
 
 void put_hex_pairs(HexDigits digits, char* out, const char* bytes, std::size_t size) {
 #ifdef ZEPH_HAS_AVX2
-  if (size >= 16 && has_avx2()) {
-    const std::size_t wide = size / 16 * 16;
-    put_hex_pairs_avx2(digits, out, bytes, wide);
-    out += 3 * wide;
-    bytes += wide;
-    size -= wide;
-  }
+  if (size >= 8 && has_avx2()) return put_hex_pairs_avx2(digits, out, bytes, size);
 #endif
   put_hex_pairs_portable(digits, out, bytes, size);
 }

@@ -11,8 +11,7 @@ enum class HexDigits { lower, upper };
 // Writes 3 * size bytes to `out`: the bytes 48 0A give "48 0A ".
 void put_hex_pairs(HexDigits digits, char* out, const char* bytes, std::size_t size);
 
-// The twins, with the same promise; the wide one where the build has it, for a multiple of 16
-// bytes.
+// The twins, with the same promise; the wide one where the build has it, for at least 8 bytes.
 void put_hex_pairs_portable(HexDigits digits, char* out, const char* bytes, std::size_t size);
 void put_hex_pairs_avx2(HexDigits digits, char* out, const char* bytes, std::size_t size);
 

@@ -1,5 +1,8 @@
 #include "scan/last_byte.h"
 
+#include <algorithm>
+
+#include "scan/byte_mask.h"
 #include "scan/wide.h"
 
 namespace zeph {
@@ -13,42 +16,32 @@ std::size_t behind_last_portable(const char* text, std::size_t size, char a, cha
 
 namespace {
 
-constexpr std::size_t step = 16;
-constexpr std::size_t stride = 4 * step;
-
-struct WideBytes {
-  __m128i a, b;
-
-  __m128i equal(const char* from) const {
-    const __m128i bytes = load_16(from);
+// Whether either byte stands among 64. Four steps at once: a long way is bound by how fast it can
+// be loaded.
+bool any_of_64(const char* from, __m128i a, __m128i b) {
+  const auto equal = [=](std::size_t at) {
+    const __m128i bytes = load_16(from + at);
     return _mm_or_si128(_mm_cmpeq_epi8(bytes, a), _mm_cmpeq_epi8(bytes, b));
-  }
-  // Four steps at once: a long way is bound by how fast it can be loaded.
-  bool any_in_stride(const char* from) const {
-    const __m128i front = _mm_or_si128(equal(from), equal(from + step));
-    const __m128i back = _mm_or_si128(equal(from + 2 * step), equal(from + 3 * step));
-    return bits_of(_mm_or_si128(front, back)) != 0;
-  }
-};
+  };
+  const __m128i front = _mm_or_si128(equal(0), equal(16)),
+                back = _mm_or_si128(equal(32), equal(48));
+  return bits_of(_mm_or_si128(front, back)) != 0;
+}
 
 }  // namespace
 
-std::size_t behind_last(const char* text, std::size_t size, char a, char b) {
-  if (size < step) return behind_last_portable(text, size, a, b);  // no 16 bytes to load
-  const WideBytes wide{all_16(a), all_16(b)};
-  while (size >= stride && !wide.any_in_stride(text + size - stride)) size -= stride;
-  for (; size >= step; size -= step) {
-    const unsigned bits = bits_of(wide.equal(text + size - step));
-    if (bits != 0) return size - step + highest_bit(bits) + 1;
+std::size_t behind_last_far(const char* text, std::size_t size, char a, char b) {
+#ifdef ZEPH_HAS_AVX2
+  if (size >= 256 && has_avx2()) size = behind_last_128_avx2(text, size, a, b);
+#endif
+  const __m128i all_a = all_16(a), all_b = all_16(b);
+  while (size > mask_bytes && !any_of_64(text + size - mask_bytes, all_a, all_b)) {
+    size -= mask_bytes;
   }
-  const unsigned rest = bits_of(wide.equal(text)) & ((1U << size) - 1);
-  return rest == 0 ? 0 : highest_bit(rest) + 1;
-}
-
-#else
-
-std::size_t behind_last(const char* text, std::size_t size, char a, char b) {
-  return behind_last_portable(text, size, a, b);
+  // What is left to be told apart lies in the last 64 bytes, or there is nothing.
+  const std::size_t front = size - std::min(size, mask_bytes);
+  const std::size_t behind = behind_last(text + front, size - front, a, b);
+  return behind == 0 ? 0 : front + behind;
 }
 
 #endif

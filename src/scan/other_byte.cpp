@@ -38,12 +38,8 @@ bool all_same(const char* from, __m128i byte) {
 
 }  // namespace
 
-// Most runs are short: the first bytes decide them.
-constexpr std::size_t near = 6;
-
-std::size_t run_at_front(const char* text, std::size_t size, char byte) {
-  std::size_t run = run_at_front_portable(text, size < near ? size : near, byte);
-  if (run < near) return run;
+std::size_t long_run_at_front(const char* text, std::size_t size, char byte) {
+  std::size_t run = near_run;
   const __m128i same = all_16(byte);
   while (size - run >= stride && all_same(text + run, same)) run += stride;
   for (; size - run >= step; run += step) {
@@ -52,12 +48,9 @@ std::size_t run_at_front(const char* text, std::size_t size, char byte) {
   return run + run_at_front_portable(text + run, size - run, byte);
 }
 
-std::size_t run_at_back(const char* text, std::size_t size, char byte) {
-  const std::size_t some = size < near ? size : near;
-  const std::size_t run = run_at_back_portable(text + size - some, some, byte);
-  if (run < near) return run;
+std::size_t long_run_at_back(const char* text, std::size_t size, char byte) {
   const __m128i same = all_16(byte);
-  std::size_t left = size - run;
+  std::size_t left = size - near_run;
   while (left >= stride && all_same(text + left - stride, same)) left -= stride;
   for (; left >= step; left -= step) {
     if (const unsigned bits = others(text + left - step, same)) {
@@ -69,11 +62,11 @@ std::size_t run_at_back(const char* text, std::size_t size, char byte) {
 
 #else
 
-std::size_t run_at_front(const char* text, std::size_t size, char byte) {
+std::size_t long_run_at_front(const char* text, std::size_t size, char byte) {
   return run_at_front_portable(text, size, byte);
 }
 
-std::size_t run_at_back(const char* text, std::size_t size, char byte) {
+std::size_t long_run_at_back(const char* text, std::size_t size, char byte) {
   return run_at_back_portable(text, size, byte);
 }
 

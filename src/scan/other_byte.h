@@ -7,13 +7,31 @@
 
 namespace zeph {
 
-// How many bytes in front of the first one that is not `byte`; `size` if there is none.
-std::size_t run_at_front(const char* text, std::size_t size, char byte);
 std::size_t run_at_front_portable(const char* text, std::size_t size, char byte);
+std::size_t run_at_back_portable(const char* text, std::size_t size, char byte);
+
+// The same for runs of which at least `near_run` bytes are known.
+std::size_t long_run_at_front(const char* text, std::size_t size, char byte);
+std::size_t long_run_at_back(const char* text, std::size_t size, char byte);
+
+// Most runs are short: the first bytes decide them, without a call.
+constexpr std::size_t near_run = 6;
+
+// How many bytes in front of the first one that is not `byte`; `size` if there is none.
+inline std::size_t run_at_front(const char* text, std::size_t size, char byte) {
+  for (std::size_t run = 0; run < near_run; ++run) {
+    if (run == size || text[run] != byte) return run;
+  }
+  return long_run_at_front(text, size, byte);
+}
 
 // How many bytes behind the last one that is not `byte`; `size` if there is none.
-std::size_t run_at_back(const char* text, std::size_t size, char byte);
-std::size_t run_at_back_portable(const char* text, std::size_t size, char byte);
+inline std::size_t run_at_back(const char* text, std::size_t size, char byte) {
+  for (std::size_t run = 0; run < near_run; ++run) {
+    if (run == size || text[size - 1 - run] != byte) return run;
+  }
+  return long_run_at_back(text, size, byte);
+}
 
 }  // namespace zeph
 

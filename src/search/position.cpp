@@ -61,20 +61,30 @@ std::size_t find_in_range(const char* text, Range range, View pattern, CaseRule 
       [pattern, &table](View piece) { return find_needle_by_table(piece, pattern, table.bytes); });
 }
 
-// The exact search through a whole text. Most texts are short, and one look at their front decides.
-// In long ones the first byte of most patterns is rare: as long as it is, the runtime's walk to it
-// needs no length and passes the text once.
-std::size_t find_exact(const char* text, View pattern) {
-  const std::size_t known = strnlen(text, mask_bytes), overlap = pattern.size() - 1;
-  const std::size_t found = find_needle(View(text, known), pattern);
-  if (found != View::npos || known < mask_bytes) return found;
-  const char* from = text + known - std::min(known, overlap);
+bool starts_with(const char* text, const char* pattern) {
+  while (*pattern != '\0' && *text == *pattern) ++text, ++pattern;
+  return *pattern == '\0';
+}
+
+// The exact search through a whole text. The first byte of most patterns is rare, and the runtime's
+// walk to it needs no length: the first place where it stands decides most searches. Else the text
+// goes on for a bit or it is a long one: one look at what is near, a few more walks, the filter.
+std::size_t find_exact(const char* text, const char* pattern_text) {
+  const char* from = find_byte_or_end(text, *pattern_text);
+  if (*from == '\0') return View::npos;
+  if (starts_with(from, pattern_text)) return static_cast<std::size_t>(from - text);
+  ++from;
+  const View pattern(pattern_text);
+  const auto passed = static_cast<std::size_t>(from - text);
+  const std::size_t known = strnlen(from, mask_bytes);
+  const std::size_t found = find_needle(View(from, known), pattern);
+  if (found != View::npos) return passed + found;
+  if (known < mask_bytes) return View::npos;
+  from += known - std::min(known, pattern.size() - 1);
   for (int candidates = 0; candidates < 4; ++candidates) {
     from = find_byte_or_end(from, pattern[0]);
     if (*from == '\0') return View::npos;
-    std::size_t same = 1;
-    while (same < pattern.size() && from[same] == pattern[same]) ++same;
-    if (same == pattern.size()) return static_cast<std::size_t>(from - text);
+    if (starts_with(from, pattern_text)) return static_cast<std::size_t>(from - text);
     ++from;
   }
   const Range rest{static_cast<std::size_t>(from - text), View::npos};

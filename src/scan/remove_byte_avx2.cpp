@@ -1,0 +1,59 @@
+// A frequent byte taken out 32 bytes a step: entered only where the processor has AVX2.
+#include "scan/remove_byte.h"
+
+#include <immintrin.h>
+
+#include <array>
+#include <cstdint>
+
+namespace zeph {
+namespace {
+
+// For each set of places among eight bytes: the shuffle that moves the others to the front, and how
+// many these are.
+struct Packing {
+  std::array<std::array<std::uint8_t, 8>, 256> shuffles;
+  std::array<std::uint8_t, 256> kept;
+};
+
+constexpr Packing make_packing() {
+  Packing packing{};
+  for (std::size_t removed = 0; removed < 256; ++removed) {
+    std::uint8_t kept = 0;
+    for (std::uint8_t place = 0; place < 8; ++place) {
+      if ((removed >> place & 1) == 0) packing.shuffles[removed][kept++] = place;
+    }
+    packing.kept[removed] = kept;
+  }
+  return packing;
+}
+
+constexpr Packing packing = make_packing();
+
+__attribute__((target("avx2"))) __m128i load_8(const void* from) {
+  return _mm_loadl_epi64(static_cast<const __m128i*>(from));
+}
+
+}  // namespace
+
+__attribute__((target("avx2"))) Removal remove_dense_byte_avx2(char* text, std::size_t size,
+                                                               char byte, Removal removal) {
+  const __m256i removed = _mm256_set1_epi8(byte);
+  for (; size - removal.next >= 32; removal.next += 32) {
+    char* const from = text + removal.next;
+    const __m256i bytes = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(from));
+    auto places = static_cast<unsigned>(_mm256_movemask_epi8(_mm256_cmpeq_epi8(bytes, removed)));
+    if (places == 0) break;
+    for (std::size_t i = 0; i < 32; i += 8, places >>= 8) {
+      const unsigned here = places & 0xFF;
+      const __m128i shuffle = load_8(packing.shuffles[here].data());
+      // Eight bytes are written; they end in front of the ones that are still to be read.
+      auto* const to = reinterpret_cast<__m128i*>(text + removal.kept);
+      _mm_storel_epi64(to, _mm_shuffle_epi8(load_8(from + i), shuffle));
+      removal.kept += packing.kept[here];
+    }
+  }
+  return removal;
+}
+
+}  // namespace zeph
