@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <functional>
 #include <new>
 #include <string>
 
@@ -19,7 +20,7 @@ namespace {
 
 template <typename... Values>
 std::string printed(const char* format, Values... values) {
-  char text[400];
+  char text[1024];
   std::snprintf(text, sizeof text, format, values...);
   return text;
 }
@@ -64,8 +65,15 @@ void printed_to_size(Draw& draw) {
     EXPECT_THROW(Zeph_Splicing(size, "%s", "x"), std::bad_alloc);
     return;
   }
-  const std::string whole = text + "-" + printed("%d", size) + more;
-  EXPECT_EQ(Zeph_Splicing(size, "%s-%d%s", text.c_str(), size, more.c_str()),
+  // The second format goes to the runtime, the first one does not.
+  const char* const format = draw.yes() ? "%s-%d%s|%u%c%%%i" : "%s-%3d%s|%u%c%%%i";
+  const auto number = static_cast<unsigned>(draw.any_int());
+  const int byte = draw.byte();
+  const auto print = [&](auto printer) {
+    return printer(format, text.c_str(), size, more.c_str(), number, byte, size);
+  };
+  const std::string whole = print([](auto... values) { return printed(values...); });
+  EXPECT_EQ(print([size](auto... values) { return Zeph_Splicing(size, values...); }),
             whole.substr(0, static_cast<std::size_t>(std::max(size - 1, 0))));
 }
 
@@ -78,22 +86,10 @@ std::string join_alarms(const std::vector<std::string>& texts, std::size_t room)
   const auto call = [&](auto... indexes) {
     Zeph_Strcat_Alarm_Append_Text(first.data(), more[std::size_t(indexes)]...);
   };
-  switch (more.size()) {
-    case 1:
-      call(0);
-      break;
-    case 2:
-      call(0, 1);
-      break;
-    case 3:
-      call(0, 1, 2);
-      break;
-    case 4:
-      call(0, 1, 2, 3);
-      break;
-    default:
-      call(0, 1, 2, 3, 4);
-  }
+  const std::function<void()> forms[] = {[&] { call(0); }, [&] { call(0, 1); },
+                                         [&] { call(0, 1, 2); }, [&] { call(0, 1, 2, 3); },
+                                         [&] { call(0, 1, 2, 3, 4); }};
+  forms[more.size() - 1]();
   return first.data();
 }
 

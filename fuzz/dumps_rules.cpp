@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <string>
 
-#include "number/integer_model.h"
+#include "number/number_harness.h"
 #include "rules.h"
 #include "support/fold.h"
 #include "support/guarded_buffer.h"

@@ -8,7 +8,6 @@
 #include <cstring>
 #include <iterator>
 
-#include "number/integer_model.h"
 #include "number/integer_text_table.h"
 #include "number/number_harness.h"
 #include "number/real_format_table.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "support/outcome.h"
+#include "support/refusing_heap.h"
 #include "zeph.h"
 
 namespace zeph_test {

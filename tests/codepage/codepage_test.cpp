@@ -3,7 +3,6 @@
 #include <string>
 
 #include "codepage/codepage_model.h"
-#include "support/refusing_heap.h"
 #include "zeph.h"
 
 using namespace zeph_test;
@@ -30,17 +29,4 @@ TEST(CodePage, EveryByteAndEveryPair) {
     }
   }
   expect_conversions(all);
-}
-
-TEST(CodePage, TheResultIsTheOnlyBlock) {
-  REQUIRE_REFUSING_HEAP;
-  for (const std::size_t size : {90u, 12000u}) {
-    const std::string text(size, '\xE6');
-    RefusingHeap heap;
-    Zeph_UTF8_to_ANSI(text.c_str());
-    EXPECT_EQ(heap.news(), 1);
-    Zeph_ANSI_to_UTF8(text.c_str());
-    EXPECT_EQ(heap.news(), 2);
-    EXPECT_EQ(heap.callocs(), 0);
-  }
 }

@@ -7,7 +7,7 @@
 
 #include "frame/buffers_table.h"
 #include "support/guarded_buffer.h"
-#include "support/outcome.h"
+#include "support/refusing_heap.h"
 #include "support/stdout_capture.h"
 #include "support/table.h"
 #include "zeph.h"

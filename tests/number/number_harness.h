@@ -1,10 +1,12 @@
-// One number, read through all forms of the readers or written, and held against what it should be.
+// One number, read through all forms of the readers or written, and held against what it should be;
+// integer texts by the plainest loop.
 #ifndef ZEPH_TESTS_NUMBER_NUMBER_HARNESS_H
 #define ZEPH_TESTS_NUMBER_NUMBER_HARNESS_H
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -62,6 +64,38 @@ inline void expect_written(double value, int code, const std::string& expected) 
   Orbane::Zeph_Conv_Dbl_To_Str(value, code, out.data());
   EXPECT_EQ(std::string(out.data(), strnlen(out.data(), 64)), expected) << value << ", " << code;
   EXPECT_TRUE(out.untouched(expected.size() + 1));
+}
+
+const std::string hex_digits = "0123456789ABCDEFabcdef";
+
+// The digits at the start of a text, as many as there are, modulo 2^32.
+inline std::uint32_t wrapped(const std::string& text, const std::string& digits) {
+  std::uint32_t word = 0;
+  for (const char byte : text) {
+    const std::size_t digit = digits.find(byte);
+    if (digit == std::string::npos) break;
+    word = word * (digits.size() > 10 ? 16 : 10) +
+           static_cast<std::uint32_t>(digit < 16 ? digit : digit - 6);
+  }
+  return word;
+}
+
+struct Reading {
+  bool accepted;
+  std::uint32_t word;
+};
+
+// An optional '-', then decimal digits or, behind "0x" or "0X", hexadecimal ones; any number of
+// them.
+inline Reading read_integer(std::string text, bool with_hex) {
+  const bool negative = text.rfind("-", 0) == 0;
+  if (negative) text.erase(0, 1);
+  const bool hex = with_hex && (text.rfind("0x", 0) == 0 || text.rfind("0X", 0) == 0);
+  if (hex) text.erase(0, 2);
+  const std::string digits = hex ? hex_digits : "0123456789";
+  const bool accepted = text.find_first_not_of(digits) == std::string::npos;
+  const std::uint32_t word = wrapped(text, digits);
+  return {accepted, negative && accepted ? 0 - word : word};
 }
 
 // Some runtimes are a bit off in the last place, where ours is not.

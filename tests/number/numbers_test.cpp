@@ -56,8 +56,7 @@ TEST(Numbers, NegativeCountsAreRefusedWorkBuffers) {
 TEST(Numbers, EveryPowerOfTen) {
   if (!runtime_is_exact()) GTEST_SKIP() << "the runtime does not round to nearest";
   for (int exponent = -400; exponent <= 400; ++exponent) {
-    for (const std::string digits :
-         {"1", "9007199254740993", "18446744073709551615", "9999999999999999999"}) {
+    for (const std::string digits : {"1", "9007199254740993", "9999999999999999999"}) {
       const std::string text = digits + "e" + std::to_string(exponent);
       const double value = std::strtod(text.c_str(), nullptr);
       expect_read(text, exponent < 0 ? 2 : 1, value, value);

@@ -51,12 +51,6 @@ TEST(Posix, LocalTimeFollowsTheZone) {
   });
 }
 
-TEST(Posix, CapacityCoversTheRequest) {
-  void* const block = std::malloc(100);
-  EXPECT_GE(zeph::block_capacity(block), 100U);
-  std::free(block);
-}
-
 TEST(Posix, ErrnoBecomesTheWindowsCode) {
   for (const auto& row : error_codes) {
     errno = row.value;

@@ -2,8 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <random>
 #include <string>
 
+#include "number/real_format.h"
+#include "number/real_format_table.h"
+#include "number/wide_product.h"
 #include "scan/ascii_fold.h"
 #include "scan/ascii_run.h"
 #include "scan/byte_mask.h"
@@ -14,10 +19,12 @@
 #include "scan/last_byte.h"
 #include "scan/move_bytes.h"
 #include "scan/other_byte.h"
+#include "scan/remove_byte.h"
 #include "scan/wide.h"
 #include "support/draw.h"
 #include "support/fold.h"
 #include "support/guarded_buffer.h"
+#include "support/table.h"
 
 using namespace zeph_test;
 using zeph::HexDigits;
@@ -75,11 +82,25 @@ TEST(Kernels, FoldsAndHexPairs) {
     expect_pairs(zeph::put_hex_pairs);
     expect_pairs(zeph::put_hex_pairs_portable);
 #ifdef ZEPH_HAS_AVX2
-    if (has_avx2 && size % 16 == 0) expect_pairs(zeph::put_hex_pairs_avx2);
+    if (has_avx2 && size >= 8) expect_pairs(zeph::put_hex_pairs_avx2);
     if (!has_avx2 || size < 64) return;
     zeph::put_ascii_fold_avx2(to, in.data(), in.data(), size);
     ASSERT_EQ(std::string(in.data(), size), fold) << "in its place";
 #endif
+  });
+}
+
+// One byte taken out, frequent or rare, or frequent for a while.
+TEST(Kernels, RemoveByte) {
+  each_size([](Draw& draw, std::size_t size) {
+    std::string text = draw.text(0, draw.yes() ? "ab" : "abcdefghijklmnopqrstuvwxyz");
+    if (draw.yes()) std::fill_n(text.begin(), size / 2, 'b');
+    std::string kept = text;
+    kept.erase(std::remove(kept.begin(), kept.end(), 'a'), kept.end());
+    for (auto* const remove : {zeph::remove_byte, zeph::remove_byte_portable}) {
+      const GuardedText in(text, End::bare);
+      ASSERT_EQ(std::string(in.data(), remove(in.data(), size, 'a')), kept);
+    }
   });
 }
 
@@ -93,16 +114,13 @@ TEST(Kernels, Runs) {
     const GuardedText in(text, End::bare), closed(text);
     const char *const begin = in.data(), *const end = begin + size;
     ASSERT_EQ(zeph::ascii_run(begin, end), at);
-    ASSERT_EQ(zeph::ascii_run_portable(begin, end), at);
     for (auto* const copy : {zeph::copy_ascii_run, zeph::copy_ascii_run_portable}) {
       const GuardedBuffer out(at + zeph::ascii_step);
       ASSERT_EQ(copy(out.data(), begin, end), at);
       ASSERT_EQ(std::string(out.data(), at), text.substr(0, at));
     }
     ASSERT_EQ(zeph::run_at_front(begin, size, byte), at);
-    ASSERT_EQ(zeph::run_at_front_portable(begin, size, byte), at);
     ASSERT_EQ(zeph::run_at_back(begin, size, byte), back);
-    ASSERT_EQ(zeph::run_at_back_portable(begin, size, byte), back);
     ASSERT_EQ(zeph::behind_last(begin, size, 'x', other), at < size ? at + 1 : 0);
     ASSERT_EQ(zeph::behind_last_portable(begin, size, other, 'x'), at < size ? at + 1 : 0);
     ASSERT_EQ(zeph::find_byte_or_end(begin, other, size), begin + at);
@@ -215,5 +233,25 @@ TEST(Kernels, FindNeedleInRepetitiveTexts) {
       needle[changed] ^= 'a' ^ 'b';
       expect_found(word, needle);
     }
+  }
+}
+
+TEST(RealFormat, ExponentTrim) {
+  each_row(exponent_rows, [](const auto& row) {
+    const GuardedText text(row.text);
+    zeph::trim_exponent(text.data());
+    EXPECT_STREQ(text.data(), row.trimmed);
+  });
+}
+
+TEST(WideProduct, PortableFormAgrees) {
+  std::mt19937_64 random(3);
+  for (int i = 0; i < 1000; ++i) {
+    const std::uint64_t a = i == 0 ? ~std::uint64_t{0} : random();
+    const std::uint64_t b = i == 0 ? a : random() >> random() % 64;
+    const zeph::Wide wide = zeph::wide_product(a, b), plain = zeph::wide_product_portable(a, b);
+    EXPECT_EQ(plain.low, a * b);
+    EXPECT_EQ(wide.low, plain.low);
+    EXPECT_EQ(wide.high, plain.high);
   }
 }

@@ -14,6 +14,9 @@
 
 #include <atomic>
 #include <cstddef>
+#include <string>
+
+#include "zeph.h"
 
 namespace zeph_test {
 
@@ -67,6 +70,29 @@ class RefusingHeap {
   }
   long news() const {
     return new_gate.seen;
+  }
+};
+
+// The parts as one text, made with a heap that refuses no more.
+template <typename... Parts>
+std::string shown(const Parts&... parts) {
+  RefusingHeap::refuse_no_more();
+  std::string text;
+  ((text += parts, text += '|'), ...);
+  return text;
+}
+
+// An owned buffer that ends with its scope.
+struct Owned {
+  char* block = nullptr;
+  explicit Owned(const char* held = nullptr) {
+    if (held) Orbane::Zeph_Copy_Mem(&block, held);
+  }
+  ~Owned() {
+    Orbane::Zeph_Release_Mem(&block);
+  }
+  std::string text() const {
+    return block ? block : "NULL";
   }
 };
 

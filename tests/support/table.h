@@ -1,9 +1,4 @@
 // Table tests: a struct with a `why`, an array of rows, one loop. A failing row names itself.
-//
-//     const struct { const char* why; const char* text; int limit; } rows[] = {
-//         {"limit cuts the middle field", "redgreen blue", 3},
-//     };
-//     each_row(rows, [](const auto& row) { EXPECT_EQ(...); });
 #ifndef ZEPH_TESTS_SUPPORT_TABLE_H
 #define ZEPH_TESTS_SUPPORT_TABLE_H
 

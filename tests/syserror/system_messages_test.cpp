@@ -5,8 +5,6 @@
 #include <map>
 #include <string>
 
-#include "support/table.h"
-#include "syserror/system_messages_table.h"
 #include "zeph.h"
 
 #ifdef _WIN32
@@ -24,8 +22,6 @@ static void SetLastError(std::uint32_t code) {
   last_error = code;
 }
 #endif
-
-using namespace zeph_test;
 
 namespace {
 
@@ -46,10 +42,6 @@ void expect_message(std::uint32_t code, const std::string& text) {
 }
 
 }  // namespace
-
-TEST(SystemMessages, AreBytesOfCodePage936) {
-  each_row(known_messages, [](const auto& row) { expect_message(row.code, row.text); });
-}
 
 TEST(SystemMessages, EveryCodeHasItsRowOrTheFallback) {
   std::map<std::uint32_t, std::string> rows;
