@@ -29,8 +29,8 @@ inline const char* fold_locale_name() {
 bool all_fold_as_ascii(LetterCase to);
 
 // Whether the locale folds the ASCII letters and nothing else, as "C" does, and most locales with
-// UTF-8 or GBK. It costs three nanoseconds in "C" and some ten in others, or as much as 256 calls of
-// tolower() where the runtime does not show its tables: a caller asks once for a text.
+// UTF-8 or GBK. It costs three nanoseconds in "C" and some ten in others, or as much as 256 calls
+// of tolower() where the runtime does not show its tables: a caller asks once for a text.
 inline bool locale_folds_ascii(LetterCase to) {
   const char* const name = fold_locale_name();
   return (name && std::strcmp(name, "C") == 0) || all_fold_as_ascii(to);

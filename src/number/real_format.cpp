@@ -8,9 +8,10 @@
 #include <cstdint>
 #include <cstring>
 
+#include "frame/decimal_point.h"
 #include "frame/formatted_text.h"
+#include "number/powers_of_ten.h"
 #include "number/wide_product.h"
-#include "platform/platform.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -115,14 +116,78 @@ char* put_fixed(char* out, double value, int decimals) {
   return out;
 }
 
+// The integer below magnitude * 10^power, and how the rest lies to a half. The power is cut off
+// behind 128 bits, so that the exact product lies at most two units of its low word higher: where
+// that may matter, declines.
+struct ScaledDigits {
+  std::uint64_t digits;
+  bool round_up;
+};
+
+bool scale_digits(std::uint64_t mantissa, int place, int power, ScaledDigits& scaled) {
+  const Wide bits = power_bits(power);
+  auto [high, low] = wide_product(mantissa, bits.high);
+  const std::uint64_t carry = wide_product(mantissa, bits.low).high;
+  low += carry;
+  high += low < carry;
+  const int shift = 62 - place - power_place(power);  // of the high word; 24 at least
+  const std::uint64_t half = std::uint64_t{1} << (shift - 1);
+  const std::uint64_t rest = high & (2 * half - 1);
+  if ((rest == half && low == 0) || (rest == half - 1 && low == ~std::uint64_t{0})) return false;
+  scaled = {high >> shift, rest >= half};
+  return true;
+}
+
+// Writes the scientific notation of most numbers by one product with a power of ten, as the reader
+// of numbers does in the other direction. Returns as put_fixed() does, and stays out of its way.
+[[gnu::noinline]] char* put_scientific(char* out, double value, int decimals) {
+  std::uint64_t image;
+  std::memcpy(&image, &value, sizeof image);
+  constexpr int mantissa_bits = DBL_MANT_DIG - 1;
+  const auto biased = static_cast<int>(image >> mantissa_bits & (2 * DBL_MAX_EXP - 1));
+  if (biased == 0) return nullptr;  // zero, or fewer bits than a double has
+  const int place = biased - (DBL_MAX_EXP - 1);
+  const std::uint64_t mantissa = image << (63 - mantissa_bits) | std::uint64_t{1} << 63;
+  // floor(place * log10(2)): the exponent, or one less.
+  int exponent = (place * 78913) >> 18;
+  if (decimals - exponent > highest_power) return nullptr;
+  const auto count = static_cast<std::size_t>(decimals);
+  const std::uint64_t one = powers[count];
+  ScaledDigits scaled;
+  if (!scale_digits(mantissa, place, decimals - exponent, scaled)) return nullptr;
+  if (scaled.digits >= 10 * one) {
+    ++exponent;
+    if (!scale_digits(mantissa, place, decimals - exponent, scaled)) return nullptr;
+  }
+  std::uint64_t digits = scaled.digits + scaled.round_up;
+  if (digits == 10 * one) {
+    digits = one;
+    ++exponent;
+  }
+  if (image >> 63 != 0) *out++ = '-';
+  *out++ = static_cast<char>('0' + digits / one);
+  *out++ = '.';
+  put_digits(out, digits % one, count);
+  out += count;
+  *out++ = 'e';
+  *out++ = exponent < 0 ? '-' : '+';
+  const auto magnitude = static_cast<std::uint64_t>(exponent < 0 ? -exponent : exponent);
+  const std::size_t width = magnitude < 100 ? 2 : 3;
+  put_digits(out, magnitude, width);
+  out += width;
+  *out = '\0';
+  return out;
+}
+
 // Writes a number with '.' as its decimal point; returns as put_fixed() does. The standard
 // library's own conversion gives the bytes of the bounded format for every finite number that fits.
 char* put_with_dot(char* out, std::size_t size, double value, Format format) {
   if (!std::isfinite(value)) return nullptr;
   if (format.decimals > 0 && !decimal_point_is_dot()) return nullptr;
-  if (format.notation == std::chars_format::fixed) {
-    if (char* const end = put_fixed(out, value, format.decimals)) return end;
-  }
+  char* const ours = format.notation == std::chars_format::fixed
+                         ? put_fixed(out, value, format.decimals)
+                         : put_scientific(out, value, format.decimals);
+  if (ours) return ours;
   const auto [end, error] =
       std::to_chars(out, out + size - 1, value, format.notation, format.decimals);
   if (error != std::errc()) return nullptr;

@@ -26,10 +26,6 @@ constexpr std::size_t unknown_block = static_cast<std::size_t>(-1);
 // The size in bytes of a block of the runtime's heap, at least what was asked for.
 std::size_t block_capacity(void* block);
 
-// True if the locale in force writes numbers with ".", as the conversions of the C++ standard
-// library do. It costs little enough to be asked at every call.
-bool decimal_point_is_dot();
-
 // The error state of the calling thread: errno, and the system's own last error where it has one.
 struct ErrorState {
   int errno_value;

@@ -1,5 +1,4 @@
 // The platform on POSIX systems.
-#include <langinfo.h>
 #include <malloc.h>
 #include <time.h>
 
@@ -92,11 +91,6 @@ std::uint32_t last_error() {
 
 std::size_t block_capacity(void* block) {
   return malloc_usable_size(block);
-}
-
-bool decimal_point_is_dot() {
-  const char* const point = nl_langinfo(RADIXCHAR);
-  return point[0] == '.' && point[1] == '\0';
 }
 
 // A host's own GetLastError is the host's business: the library calls nothing that changes it.

@@ -4,7 +4,6 @@
 #include <windows.h>
 
 #include <cerrno>
-#include <clocale>
 
 #include "platform/platform.h"
 
@@ -22,11 +21,6 @@ std::uint32_t last_error() {
 
 std::size_t block_capacity(void* block) {
   return _msize(block);
-}
-
-bool decimal_point_is_dot() {
-  const char* const point = std::localeconv()->decimal_point;
-  return point[0] == '.' && point[1] == '\0';
 }
 
 ErrorState error_state() {
