@@ -28,7 +28,7 @@ void ExpandKey(AesContext& context) {
 
 void EncryptBlocks(const unsigned char* in, unsigned char* out, std::size_t count) {
 #ifdef ZEPH_HAS_VAES_X86
-  if (count > vaes_batch && has_vaes_x86()) return encrypt_blocks_vaes(in, out, count);
+  if (count >= vaes_batch && has_vaes_x86()) return encrypt_blocks_vaes(in, out, count);
 #endif
 #ifdef ZEPH_HAS_AES_X86
   if (has_aes_x86()) return encrypt_blocks_x86(in, out, count);
@@ -38,7 +38,7 @@ void EncryptBlocks(const unsigned char* in, unsigned char* out, std::size_t coun
 
 void DecryptBlocks(const unsigned char* in, unsigned char* out, std::size_t count) {
 #ifdef ZEPH_HAS_VAES_X86
-  if (count > vaes_batch && has_vaes_x86()) return decrypt_blocks_vaes(in, out, count);
+  if (count >= vaes_batch && has_vaes_x86()) return decrypt_blocks_vaes(in, out, count);
 #endif
 #ifdef ZEPH_HAS_AES_X86
   if (has_aes_x86()) return decrypt_blocks_x86(in, out, count);

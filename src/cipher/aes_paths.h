@@ -26,7 +26,7 @@ void encrypt_blocks_x86(const unsigned char* in, unsigned char* out, std::size_t
 void decrypt_blocks_x86(const unsigned char* in, unsigned char* out, std::size_t count);
 #endif
 
-// Two blocks to an instruction, in batches; it pays for more blocks than a batch holds.
+// Two blocks to an instruction, in batches; it pays where there is a whole one.
 #ifdef ZEPH_HAS_VAES_X86
 constexpr std::size_t vaes_batch = 16;
 inline bool has_vaes_x86() {

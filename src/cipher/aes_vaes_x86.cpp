@@ -59,31 +59,34 @@ template <typename Direction>
   }
 }
 
-// Does whole batches, but leaves at least one block. Returns the number of blocks done.
+// Does whole batches, of which there is at least one, and keeps the state that they leave. Returns
+// the number of blocks done.
 template <typename Direction>
 [[gnu::target("vaes,avx2")]] std::size_t run_batches(const unsigned char* keys,
                                                      const unsigned char* in, unsigned char* out,
                                                      std::size_t count) {
   std::size_t done = 0;
-  for (; count - done > vaes_batch; done += vaes_batch) {
+  for (; count - done >= vaes_batch; done += vaes_batch) {
     run_batch<Direction>(keys, in + done * block_size, out + done * block_size);
   }
+  keep_state(out + (done - 1) * block_size);
   return done;
 }
 
 }  // namespace
 
-// The narrow path does what is left, and it keeps the state.
+// The narrow path does what is left.
 
 void encrypt_blocks_vaes(const unsigned char* in, unsigned char* out, std::size_t count) {
-  const std::size_t done = count > vaes_batch ? run_batches<Encipher>(g_aes.w, in, out, count) : 0;
+  const std::size_t done = count < vaes_batch ? 0 : run_batches<Encipher>(g_aes.w, in, out, count);
   encrypt_blocks_x86(in + done * block_size, out + done * block_size, count - done);
 }
 
 void decrypt_blocks_vaes(const unsigned char* in, unsigned char* out, std::size_t count) {
-  const std::size_t done =
-      count > vaes_batch ? run_batches<Decipher>(InverseKeys().bytes(), in, out, count) : 0;
-  decrypt_blocks_x86(in + done * block_size, out + done * block_size, count - done);
+  if (count < vaes_batch) return decrypt_blocks_x86(in, out, count);
+  const InverseKeys keys;
+  const std::size_t done = run_batches<Decipher>(keys.bytes(), in, out, count);
+  decrypt_blocks_x86(keys, in + done * block_size, out + done * block_size, count - done);
 }
 
 }  // namespace zeph

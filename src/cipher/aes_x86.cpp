@@ -48,18 +48,20 @@ class DecipherFew : public Decipher {
   }
 };
 
-// Turns all round keys first.
+// Has all round keys turned.
 class DecipherMany : public Decipher {
  public:
+  explicit DecipherMany(const InverseKeys& keys) : keys_(keys.bytes()) {}
+
   [[gnu::target("aes")]] __m128i outer_key(int i) const {
-    return load_bytes(keys_.bytes() + 16 * i);
+    return load_bytes(keys_ + 16 * i);
   }
   [[gnu::target("aes")]] __m128i inner_key(int i) const {
     return outer_key(i);
   }
 
  private:
-  InverseKeys keys_;
+  const unsigned char* keys_;
 };
 
 template <std::size_t lanes, typename Direction>
@@ -79,14 +81,6 @@ template <std::size_t lanes, typename Direction>
   for (std::size_t i = 0; i < lanes; ++i) {
     store_bytes(out + i * block_size, Direction::last_round(blocks[i], key));
   }
-}
-
-// Leaves a finished block in the state of `g_aes`: it runs down the columns, the state row by row.
-[[gnu::target("aes")]] void keep_state(const unsigned char* block) {
-  __m128i bytes = load_bytes(block);
-  bytes = _mm_unpacklo_epi8(bytes, _mm_srli_si128(bytes, 8));  // each byte and the eighth from it
-  bytes = _mm_unpacklo_epi8(bytes, _mm_srli_si128(bytes, 8));  // and so each and the fourth
-  store_bytes(g_aes.state, bytes);
 }
 
 constexpr std::size_t most_lanes = 8;
@@ -127,10 +121,14 @@ void encrypt_blocks_x86(const unsigned char* in, unsigned char* out, std::size_t
   if (count != 0) run_blocks(Encipher(), in, out, count);
 }
 
+void decrypt_blocks_x86(const InverseKeys& keys, const unsigned char* in, unsigned char* out,
+                        std::size_t count) {
+  if (count != 0) run_blocks(DecipherMany(keys), in, out, count);
+}
+
 void decrypt_blocks_x86(const unsigned char* in, unsigned char* out, std::size_t count) {
   if (count > most_lanes) {
-    const DecipherMany direction;
-    run_blocks(direction, in, out, count);
+    decrypt_blocks_x86(InverseKeys(), in, out, count);
   } else if (count != 0) {
     run_blocks(DecipherFew(), in, out, count);
   }

@@ -46,6 +46,18 @@ class InverseKeys {
   unsigned char bytes_[sizeof g_aes.w];
 };
 
+// Leaves a finished block in the state of `g_aes`: it runs down the columns, the state row by row.
+[[gnu::target("aes")]] inline void keep_state(const unsigned char* block) {
+  __m128i bytes = load_bytes(block);
+  bytes = _mm_unpacklo_epi8(bytes, _mm_srli_si128(bytes, 8));  // each byte and the eighth from it
+  bytes = _mm_unpacklo_epi8(bytes, _mm_srli_si128(bytes, 8));  // and so each and the fourth
+  store_bytes(g_aes.state, bytes);
+}
+
+// Deciphers with keys that are there.
+void decrypt_blocks_x86(const InverseKeys& keys, const unsigned char* in, unsigned char* out,
+                        std::size_t count);
+
 }  // namespace zeph
 
 #endif  // ZEPH_CIPHER_AES_X86_H

@@ -37,8 +37,10 @@ std::uint32_t seal(const unsigned char* text, std::size_t size, unsigned char* r
   // The last block is filled up in its place and before the others are enciphered: read back at
   // once, bytes of several small stores would keep the processor waiting.
   const std::size_t pad_count = tail == 0 ? 0 : block_size - tail;
-  std::memmove(last, text + whole, tail);
-  std::memset(last + tail, pad_byte, pad_count);
+  if (tail != 0) {
+    std::memmove(last, text + whole, tail);
+    std::memset(last + tail, pad_byte, pad_count);
+  }
   EncryptBlocks(text, blocks, whole / block_size);
   if (tail != 0) EncryptBlock(last, last);
   const auto length = static_cast<std::uint32_t>(size + pad_count);
@@ -53,7 +55,7 @@ std::uint32_t open(const unsigned char* record, unsigned char* text) {
   // A sound length that is not 0 has room for any sound pad count.
   if (length == 0 || length % block_size != 0 || pad_count >= block_size) return 0;
   DecryptBlocks(record + blocks_offset, text, length / block_size);
-  std::memset(text + length - pad_count, 0, pad_count);
+  if (pad_count != 0) std::memset(text + length - pad_count, 0, pad_count);
   return length;
 }
 

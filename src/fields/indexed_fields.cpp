@@ -6,12 +6,17 @@
 #include <string_view>
 
 #include "fields/field_outputs.h"
+#include "frame/locale_fold.h"
 #include "frame/owned_buffers.h"
+#include "scan/count_byte.h"
 #include "scan/find_byte.h"
+#include "scan/find_needle.h"
 #include "zeph.h"
 
 namespace zeph {
 namespace {
+
+using View = std::string_view;
 
 constexpr char blank = ' ';
 
@@ -32,32 +37,92 @@ void put_word(char* out, const char* text, char separator, int index, std::size_
   *out = '\0';
 }
 
-// The items are those that splitting a field off the front gives, again and again, until nothing is
-// left: an empty rest is no item.
+int to_index(std::size_t count) {
+  return count < INT_MAX ? static_cast<int>(count) : INT_MAX;
+}
+
+// A list and how it is cut. The items are those that splitting a field off the front gives, again
+// and again, until nothing is left: an empty rest is no item.
+struct List {
+  View text;
+  char separator;
+  SeparatorRun run;
+
+  // Whether the bytes from `begin` to `end`, none of which is a separator, are a whole item.
+  bool is_item(std::size_t begin, std::size_t end) const {
+    return (begin == 0 || text[begin - 1] == separator) &&
+           (end == text.size() || text[end] == separator);
+  }
+  // How many items stand in front of the one that starts at `begin`.
+  std::size_t items_before(std::size_t begin) const {
+    return run == SeparatorRun::each_cuts ? count_byte(text.data(), begin, separator)
+                                          : count_runs(text.data(), begin, separator);
+  }
+};
+
+// Item by item.
 template <typename Equals>
-int find_item(const char* list, char separator, SeparatorRun run, Equals equals) {
-  // The interface promises two work buffers, with a report for each that the heap refuses, and no
-  // walk without them. The walk itself moves nothing and so needs no room of its own.
-  const WorkBuffers<2> work(std::strlen(list) + 1);
-  if (!work.complete()) return -1;
-  for (std::size_t index = 0; *list != '\0'; ++index) {
-    const char* const end = find_byte_or_end(list, separator);
-    if (equals(std::string_view(list, static_cast<std::size_t>(end - list)))) {
-      return index < INT_MAX ? static_cast<int>(index) : INT_MAX;
-    }
-    list = *end == '\0' ? end : end + 1;
-    if (run == SeparatorRun::one_separator) list = skip_separators(list, separator);
+int walk_to_item(const List& list, Equals equals) {
+  const char* rest = list.text.data();
+  for (std::size_t index = 0; *rest != '\0'; ++index) {
+    const char* const end = find_byte_or_end(rest, list.separator);
+    if (equals(View(rest, static_cast<std::size_t>(end - rest)))) return to_index(index);
+    rest = *end == '\0' ? end : end + 1;
+    if (list.run == SeparatorRun::one_separator) rest = skip_separators(rest, list.separator);
   }
   return -1;
 }
 
-int find_exact(const char* list, char separator, SeparatorRun run, std::string_view value) {
-  return find_item(list, separator, run, [&](std::string_view item) { return item == value; });
+// `find` gives the place of the value in a piece of the list. The value is searched for as a whole,
+// and the separators in front of it are counted. Where it keeps turning up inside of other items,
+// all of them are looked at.
+template <typename Find, typename Equals>
+int find_item(const List& list, View value, Find find, Equals equals) {
+  if (list.separator == '\0' || value.empty()) return walk_to_item(list, equals);
+  if (value.find(list.separator) != View::npos) return -1;
+  std::size_t from = 0;
+  for (int tries = 0; tries < 8; ++tries) {
+    const std::size_t found = find(list.text.substr(from));
+    if (found == View::npos) return -1;
+    const std::size_t begin = from + found;
+    if (list.is_item(begin, begin + value.size())) return to_index(list.items_before(begin));
+    from = begin + 1;
+  }
+  return walk_to_item(list, equals);
 }
 
-int find_folded(const char* list, char separator, SeparatorRun run, std::string_view value) {
-  return find_item(list, separator, run, [&](std::string_view item) {
-    return item.size() == value.size() && strncasecmp(item.data(), value.data(), item.size()) == 0;
+// The interface promises two work buffers, with a report for each that the heap refuses, and no
+// search without them. The search itself moves nothing and so needs no room of its own.
+template <typename Search>
+int search_with_buffers(const char* list, char separator, SeparatorRun run, Search search) {
+  const View text(list);
+  const WorkBuffers<2> work(text.size() + 1);
+  return work.complete() ? search(List{text, separator, run}) : -1;
+}
+
+int find_exact(const char* list_text, char separator, SeparatorRun run, const char* value_text) {
+  return search_with_buffers(list_text, separator, run, [value_text](const List& list) {
+    const View value(value_text);
+    return find_item(
+        list, value, [value](View piece) { return find_needle(piece, value); },
+        [value](View item) { return item == value; });
+  });
+}
+
+int find_folded(const char* list_text, char separator, SeparatorRun run, const char* value_text) {
+  return search_with_buffers(list_text, separator, run, [value_text](const List& list) {
+    const View value(value_text);
+    const auto equals = [value](View item) {
+      return item.size() == value.size() &&
+             strncasecmp(item.data(), value.data(), item.size()) == 0;
+    };
+    // A value in the other case must not run over a letter that separates.
+    const bool letter = ascii_fold(LetterCase::lower, list.separator) !=
+                        ascii_fold(LetterCase::upper, list.separator);
+    if (letter || !locale_folds_ascii(LetterCase::lower)) return walk_to_item(list, equals);
+    return find_item(
+        list, value, [value](View piece) { return find_needle_ignoring_case(piece, value); },
+        equals);
   });
 }
 

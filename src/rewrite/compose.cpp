@@ -12,10 +12,15 @@
 namespace zeph {
 namespace {
 
-// Appends `size` bytes and a terminator. One copy of it serves all forms.
-[[gnu::noinline]] char* append(char* text, const char* bytes, std::size_t size) {
+// Appends `size` bytes and a terminator.
+inline char* append(char* text, const char* bytes, std::size_t size) {
   put_text(text + std::strlen(text), bytes, size);
   return text;
+}
+
+// One copy of it serves all numbers.
+[[gnu::noinline]] char* append_number(char* text, const char* digits, const char* end) {
+  return append(text, digits, static_cast<std::size_t>(end - digits));
 }
 
 // Prints a format whose only directives are %s, %d, %i, %u, %c and %%, as most are, and returns the
@@ -103,7 +108,7 @@ char* Zeph_Cat(char* text, char byte) {
 char* Zeph_Cat(char* text, int value) {
   char digits[sizeof "-2147483648"];
   const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-  return zeph::append(text, digits, static_cast<std::size_t>(end - digits));
+  return zeph::append_number(text, digits, end);
 }
 
 char* Zeph_Cat(char* text, float value) {
@@ -112,7 +117,7 @@ char* Zeph_Cat(char* text, float value) {
 
 char* Zeph_Cat(char* text, double value) {
   char digits[zeph::longest_real];
-  return zeph::append(text, digits, zeph::put_real(digits, value));
+  return zeph::append_number(text, digits, digits + zeph::put_real(digits, value));
 }
 
 std::string Zeph_Splicing(int size, const char* format, ...) {

@@ -12,6 +12,7 @@
 #include "scan/ascii_fold.h"
 #include "scan/ascii_run.h"
 #include "scan/byte_mask.h"
+#include "scan/count_byte.h"
 #include "scan/find_byte.h"
 #include "scan/find_needle.h"
 #include "scan/find_pair.h"
@@ -123,6 +124,9 @@ TEST(Kernels, Runs) {
     ASSERT_EQ(zeph::run_at_back(begin, size, byte), back);
     ASSERT_EQ(zeph::behind_last(begin, size, 'x', other), at < size ? at + 1 : 0);
     ASSERT_EQ(zeph::behind_last_portable(begin, size, other, 'x'), at < size ? at + 1 : 0);
+    ASSERT_EQ(zeph::count_byte(begin, size, byte), size - (at < size));
+    ASSERT_EQ(zeph::count_runs(closed.data(), size, byte),
+              size == 0 ? 0 : (at > 0) + (back > 0) - (at == size));
     ASSERT_EQ(zeph::find_byte_or_end(begin, other, size), begin + at);
     ASSERT_EQ(zeph::find_byte_or_end(closed.data(), other), closed.data() + at);
     ASSERT_EQ(zeph::find_byte_or_end(closed.data(), other, size + 99), closed.data() + at);
