@@ -94,7 +94,7 @@ std::string repeated(const std::string& part, std::size_t size) {
 }  // namespace
 
 void register_codepage_rows() {
-  for (const std::size_t size : {std::size_t{64}, std::size_t{4096}, std::size_t{65536}}) {
+  for (const std::size_t size : {64U, 4096U, 65536U, 1048576U}) {
     const struct {
       const char* kind;
       std::string ansi;
@@ -106,8 +106,7 @@ void register_codepage_rows() {
     for (const auto& input : inputs) {
       // The same text in both directions; as UTF-8 the Chinese one is half as long again.
       const std::string utf8 = Orbane::Zeph_ANSI_to_UTF8(input.ansi.c_str());
-      const std::string text =
-          std::string(input.kind) + ", " + std::to_string(size) + " bytes of ANSI";
+      const std::string text = std::string(input.kind) + ", " + size_text(size) + " of ANSI";
       add_rows({"Zeph_UTF8_to_ANSI", "UTF-8", "CP936", utf8, utf8.size()},
                Orbane::Zeph_UTF8_to_ANSI, text);
       add_rows({"Zeph_ANSI_to_UTF8", "CP936", "UTF-8", input.ansi, 2 * input.ansi.size()},

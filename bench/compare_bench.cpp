@@ -2,8 +2,10 @@
 // read) and on texts that differ in their first and in their last byte.
 #include <strings.h>
 
+#include <cstdint>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #if ZEPH_BENCH_HAS_ABSEIL
 #include <absl/strings/match.h>
@@ -20,14 +22,24 @@ namespace {
 
 // The byte texts start on cache lines: where a short one happens to cross a page, the runtime's
 // comparison takes a slower way, and rows would differ by where the heap put their texts.
+struct Lines {
+  std::vector<char> room;
+  char* text;
+
+  explicit Lines(const std::string& from) : room(from.size() + 64) {
+    const auto behind = reinterpret_cast<std::uintptr_t>(room.data()) % 64;
+    text = room.data() + (behind == 0 ? 0 : 64 - behind);
+    text[from.copy(text, from.size())] = '\0';
+  }
+};
+
 struct Pair {
   std::string a, b;
-  alignas(64) char a_bytes[4160];
-  alignas(64) char b_bytes[4160];
+  char *a_bytes, *b_bytes;
   int n;  // the count of the prefix members: all but the last byte
 };
 
-Pair make_pair(std::size_t size, bool fold) {
+Pair make_pair(std::size_t size, bool fold, char first) {
   Pair pair{};
   while (pair.a.size() < size) pair.a += "Chamber Pressure 0.75 mTorr; ";
   pair.a.resize(size);
@@ -36,9 +48,10 @@ Pair make_pair(std::size_t size, bool fold) {
     for (char& byte : pair.b)
       byte = byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 32) : byte;
   }
+  pair.b.front() = first;
   pair.n = static_cast<int>(size) - 1;
-  pair.a.copy(pair.a_bytes, size);
-  pair.b.copy(pair.b_bytes, size);
+  pair.a_bytes = keep(Lines(pair.a)).text;
+  pair.b_bytes = keep(Lines(pair.b)).text;
   return pair;
 }
 
@@ -89,12 +102,11 @@ void add_fold_rows(Pair& t, const std::string& input) {
 }  // namespace
 
 void register_compare_rows() {
-  for (const std::size_t size : {8U, 32U, 64U, 4096U}) {
-    add_exact_rows(keep(make_pair(size, false)), size_text(size) + ", equal");
-    add_fold_rows(keep(make_pair(size, true)), size_text(size) + ", other case");
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
+    add_exact_rows(keep(make_pair(size, false, 'C')), size_text(size) + ", equal");
+    add_fold_rows(keep(make_pair(size, true, 'C')), size_text(size) + ", other case");
   }
-  Pair& first = keep(make_pair(64, false));
-  first.b_bytes[0] = first.b.front() = '#';
+  Pair& first = keep(make_pair(64, false, '#'));
   add_exact_rows(first, "64 bytes, first differs");
   add_fold_rows(first, "64 bytes, first differs");
 }

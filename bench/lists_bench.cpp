@@ -1,8 +1,10 @@
 // Lists, fields by index and fields from the right against what a user would write instead.
+#include <algorithm>
 #include <cstring>
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #if ZEPH_BENCH_HAS_ABSEIL
@@ -84,6 +86,24 @@ std::string list_of(std::size_t items) {
   head[size] = '\0';
 }
 
+[[gnu::noinline]] int word_by_walk(const char* text, int index, char* out, std::size_t limit) {
+  for (const char* end; *(end = strchrnul(text, ',')) != '\0' && index > 0; --index) {
+    text = end + 1 + std::strspn(end + 1, ",");
+  }
+  const std::size_t size = std::min<std::size_t>(strcspn(text, ","), limit);
+  std::memcpy(out, text, size);
+  out[size] = '\0';
+  return 0;
+}
+
+void add_index_row(const std::string& text, const std::string& value, const std::string& input) {
+  row("lists", "Zeph_Seperate_Char_Get_Index", input, text.size())
+      .zeph([&] { return Orbane::Zeph_Seperate_Char_Get_Index(text.c_str(), ',', value.c_str()); })
+      .peer("strsep loop", [&] { return index_by_strtok(text, value.c_str()); })
+      .peer("strchrnul walk", [&] { return index_by_walk(text.c_str(), value); })
+      .requests([&] { return heap_requests(2, text.size() + 1); });
+}
+
 void add_list_rows(std::size_t items) {
   const std::string& text = keep(list_of(items));
   const List& list = keep(split_by_find(text));
@@ -119,11 +139,19 @@ void add_list_rows(std::size_t items) {
 #else
   split.missing_peer("Boost");
 #endif
-  row("lists", "Zeph_Seperate_Char_Get_Index", input + ", last", text.size())
-      .zeph([&] { return Orbane::Zeph_Seperate_Char_Get_Index(text.c_str(), ',', last.c_str()); })
-      .peer("strsep loop", [&] { return index_by_strtok(text, last.c_str()); })
-      .peer("strchrnul walk", [&] { return index_by_walk(text.c_str(), last); })
-      .requests([&] { return heap_requests(2, text.size() + 1); });
+  const std::string& none = keep(std::string("item"));
+  add_index_row(text, last, input + ", last");
+  add_index_row(text, none, input + ", none");
+  std::string& word = keep(std::string(last.size() + 1, '#'));
+  const auto index = static_cast<int>(items) - 1, limit = static_cast<int>(last.size());
+  row("lists", "Zeph_Seperate_Char_With_Index", input + ", last", text.size())
+      .outputs([&] { return std::string(word.c_str()) + std::exchange(word[0], '#'); })
+      .zeph([&, index, limit] {
+        Orbane::Zeph_Seperate_Char_With_Index(text.c_str(), ',', word.data(), index, limit);
+        return 0;
+      })
+      .peer("strchrnul walk",
+            [&, index] { return word_by_walk(text.c_str(), index, word.data(), last.size()); });
 }
 
 void add_reverse_row(std::size_t size) {

@@ -251,7 +251,7 @@ void add_name_row(const char* name) {
 
 void register_rewrite_rows() {
   for (const std::size_t size : {64U, 1024U, 1048576U}) add_replace_rows(size);
-  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U}) add_dump_row(size);
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) add_dump_row(size);
   add_alarm_row();
   add_name_row("S6F11");
   add_name_row("S127F255");

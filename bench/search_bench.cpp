@@ -68,6 +68,27 @@ void add_rows(Search search, const std::string& input) {
 #endif
 }
 
+[[gnu::noinline]] int find_in_slice(const char* text, std::size_t begin, std::size_t end,
+                                    const char* pattern) {
+  const std::size_t size = strnlen(text, end);
+  if (size < begin) return -1;
+  const void* const found = memmem(text + begin, size - begin, pattern, std::strlen(pattern));
+  return place(text, static_cast<const char*>(found));
+}
+
+// All but the first and the last byte of the text.
+void add_range_row(Search search, const std::string& input) {
+  Search& s = keep(std::move(search));
+  const auto end = static_cast<int>(s.text.size()) - 1;
+  row("search", "Zeph_Find_Position, a range", input, s.text.size())
+      .zeph([&s, end] {
+        return Orbane::Zeph_Find_Position(s.text.c_str(), 1, end, s.pattern.c_str());
+      })
+      .peer("strnlen, memmem", [&s, end] {
+        return find_in_slice(s.text.c_str(), 1, static_cast<std::size_t>(end), s.pattern.c_str());
+      });
+}
+
 void add_adversarial_rows(std::size_t size) {
   const std::string run(64, 'a'), half(32, 'a'), text(size, 'a'), name = size_text(size);
   add_rows({text, run + "b"}, name + ", a..a, a..ab");
@@ -91,6 +112,8 @@ void register_search_rows() {
     std::string alarm = text;
     alarm.replace(size - 6, 5, "ALARM");
     add_rows({alarm, "ALARM"}, name + ", at the end");
+    add_range_row({alarm, "ALARM"}, name + ", at the end");
+    add_range_row({text, "Pressed"}, name + ", near misses");
     add_rows({text, "Pressed"}, name + ", near misses");
     add_rows({text, "#"}, name + ", one byte, none");
     add_rows({text, "Chamber"}, name + ", at the start");

@@ -12,8 +12,9 @@ namespace zeph_bench {
 namespace {
 
 struct Marked {
-  std::string text, out;
-  char bytes[1 << 17];
+  std::string text, out, room;
+  char* bytes;
+  int size;  // of the room
 };
 
 // ---- the peers ----
@@ -85,9 +86,12 @@ void add_byte_rows(Marked& m, const std::string& input) {
   row("slices", "Zeph_Ext_Name_From_FullPath", input, m.text.size())
       .outputs([&m] { return std::string(m.bytes); })
       .zeph(
-          [&m] { return Orbane::Zeph_Ext_Name_From_FullPath(m.bytes, m.text.c_str(), 131071), 0; })
-      .peer("two of strrchr, memcpy", [&m] { return name_of(m.bytes, m.text.c_str(), 131071); })
-      .peer("find_last_of, copy", [&m] { return name_of_view(m.bytes, m.text.c_str(), 131071); });
+          [&m] { return Orbane::Zeph_Ext_Name_From_FullPath(m.bytes, m.text.c_str(), m.size), 0; })
+      .peer("two of strrchr, memcpy",
+            [&m] { return name_of(m.bytes, m.text.c_str(), static_cast<std::size_t>(m.size)); })
+      .peer("find_last_of, copy", [&m] {
+        return name_of_view(m.bytes, m.text.c_str(), static_cast<std::size_t>(m.size));
+      });
 }
 
 void add_string_rows(Marked& m, const std::string& input) {
@@ -130,11 +134,12 @@ void add_mark_row(const char* text) {
 }  // namespace
 
 void register_slices_rows() {
-  for (const std::size_t size : {32U, 64U, 4096U, 65536U}) {
+  for (const std::size_t size : {32U, 64U, 4096U, 65536U, 1048576U}) {
     // The marks stand near the front, so that what looks from the end has a way to go.
     std::string text = "a[b]=>c/";
     text.resize(size, 'x');
-    Marked& m = keep(Marked{text, "", ""});
+    Marked& m = keep(Marked{text, "", std::string(size, '#'), nullptr, static_cast<int>(size)});
+    m.bytes = m.room.data();
     add_byte_rows(m, size_text(size));
     add_string_rows(m, size_text(size));
   }

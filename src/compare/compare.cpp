@@ -14,8 +14,6 @@
 namespace zeph {
 namespace {
 
-constexpr std::size_t no_limit = static_cast<std::size_t>(-1) / 2;
-
 // Most texts that differ do so in their first byte, and then no service is called at all.
 bool equal(const char* a, const char* b) {
   return *a == *b && std::strcmp(a, b) == 0;
@@ -41,18 +39,38 @@ bool equal_folded_prefix(const char* a, const char* b, std::size_t limit) {
   return strncasecmp(a, b, limit) == 0;
 }
 
-// How much of a String is compared.
-std::size_t compared(const std::string& text, std::size_t limit) {
-  return std::min(text.size(), limit);
+// Where the first bytes of two Strings did not settle it. Long ones of one size are compared as a
+// whole first; those that differ so are equal all the same if a zero byte ends both before.
+template <typename EqualTexts>
+[[gnu::noinline]] bool equal_far(const std::string& a, const std::string& b, std::size_t size_a,
+                                 std::size_t size_b, EqualTexts equal_texts) {
+  if (size_a == size_b && size_a > short_range && std::memcmp(a.data(), b.data(), size_a) == 0) {
+    return true;
+  }
+  return equal_texts(a.c_str(), b.c_str());
 }
 
-// Strings that differ as a whole are equal all the same if a zero byte ends both before.
-bool equal(const std::string& a, const std::string& b, std::size_t limit) {
-  const std::size_t size = compared(a, limit);
-  if (limit != 0 && *a.c_str() != *b.c_str()) return false;
-  if (size == compared(b, limit) && same_bytes(a.data(), b.data(), size)) return true;
-  return limit == no_limit ? equal(a.c_str(), b.c_str())
-                           : equal_prefix(a.c_str(), b.c_str(), limit);
+// The bytes up to the sizes count, of which equal_texts() knows. Short Strings take no call.
+template <typename EqualTexts>
+inline bool equal(const std::string& a, const std::string& b, std::size_t size_a,
+                  std::size_t size_b, EqualTexts equal_texts) {
+  if (size_a == size_b && size_a <= short_range && same_short_bytes(a.data(), b.data(), size_a)) {
+    return true;
+  }
+  return equal_far(a, b, size_a, size_b, equal_texts);
+}
+
+bool equal(const std::string& a, const std::string& b) {
+  if (*a.c_str() != *b.c_str()) return false;
+  const auto equal_texts = [](const char* x, const char* y) { return equal(x, y); };
+  return equal(a, b, a.size(), b.size(), equal_texts);
+}
+
+bool equal_prefix(const std::string& a, const std::string& b, std::size_t limit) {
+  const auto equal_texts = [limit](const char* x, const char* y) {
+    return equal_prefix(x, y, limit);
+  };
+  return equal(a, b, std::min(a.size(), limit), std::min(b.size(), limit), equal_texts);
 }
 
 }  // namespace
@@ -65,7 +83,7 @@ bool Zeph_Compare(const char* a, const char* b) {
 }
 
 bool Zeph_Compare(std::string& a, std::string& b) {
-  return zeph::equal(a, b, zeph::no_limit);
+  return zeph::equal(a, b);
 }
 
 bool Zeph_Compare(const char* a, const char* b, int n) {
@@ -73,7 +91,7 @@ bool Zeph_Compare(const char* a, const char* b, int n) {
 }
 
 bool Zeph_Compare(std::string& a, std::string& b, int n) {
-  return zeph::equal(a, b, static_cast<std::size_t>(n));
+  return zeph::equal_prefix(a, b, static_cast<std::size_t>(n));
 }
 
 bool Zeph_Compare_L(const char* a, const char* b) {

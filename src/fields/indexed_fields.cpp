@@ -1,6 +1,7 @@
 // One field by its index, and the index of a value.
 #include <strings.h>
 
+#include <algorithm>
 #include <climits>
 #include <cstring>
 #include <string_view>
@@ -8,6 +9,7 @@
 #include "fields/field_outputs.h"
 #include "frame/locale_fold.h"
 #include "frame/owned_buffers.h"
+#include "scan/byte_mask.h"
 #include "scan/count_byte.h"
 #include "scan/find_byte.h"
 #include "scan/find_needle.h"
@@ -60,35 +62,66 @@ struct List {
   }
 };
 
-// Item by item.
+// The places of the separators, one after the other, found many at a look.
+class Separators {
+ public:
+  Separators(const List& list, std::size_t from)
+      : text_(list.text), separator_(list.separator), looked_(from) {}
+
+  // The size of the text behind the last one.
+  std::size_t next() {
+    while (places_ == 0) {
+      if (looked_ == text_.size()) return text_.size();
+      look_ = looked_;
+      const std::size_t size = std::min(mask_bytes, text_.size() - look_);
+      places_ = byte_mask(text_.data() + look_, size, separator_);
+      looked_ += size;
+    }
+    const std::size_t at = look_ + lowest_place(places_);
+    places_ &= places_ - 1;
+    return at;
+  }
+
+ private:
+  View text_;
+  char separator_;
+  std::size_t look_ = 0, looked_;
+  std::uint64_t places_ = 0;
+};
+
+// Item by item, from the one that starts at `begin` on.
 template <typename Equals>
-int walk_to_item(const List& list, Equals equals) {
-  const char* rest = list.text.data();
-  for (std::size_t index = 0; *rest != '\0'; ++index) {
-    const char* const end = find_byte_or_end(rest, list.separator);
-    if (equals(View(rest, static_cast<std::size_t>(end - rest)))) return to_index(index);
-    rest = *end == '\0' ? end : end + 1;
-    if (list.run == SeparatorRun::one_separator) rest = skip_separators(rest, list.separator);
+int walk_to_item(const List& list, std::size_t begin, Equals equals) {
+  const View text = list.text;
+  Separators separators(list, begin);
+  for (std::size_t index = list.items_before(begin); begin < text.size(); ++index) {
+    const std::size_t end = separators.next();
+    if (equals(text.substr(begin, end - begin))) return to_index(index);
+    begin = end + 1;
+    if (list.run == SeparatorRun::each_cuts) continue;
+    while (begin < text.size() && text[begin] == list.separator) begin = separators.next() + 1;
   }
   return -1;
 }
 
 // `find` gives the place of the value in a piece of the list. The value is searched for as a whole,
-// and the separators in front of it are counted. Where it keeps turning up inside of other items,
-// all of them are looked at.
+// and the separators in front of it are counted. Where it turns up inside of other items, these are
+// looked at one by one from there on.
 template <typename Find, typename Equals>
 int find_item(const List& list, View value, Find find, Equals equals) {
-  if (list.separator == '\0' || value.empty()) return walk_to_item(list, equals);
+  if (list.separator == '\0' || value.empty()) return walk_to_item(list, 0, equals);
   if (value.find(list.separator) != View::npos) return -1;
-  std::size_t from = 0;
-  for (int tries = 0; tries < 8; ++tries) {
-    const std::size_t found = find(list.text.substr(from));
-    if (found == View::npos) return -1;
-    const std::size_t begin = from + found;
-    if (list.is_item(begin, begin + value.size())) return to_index(list.items_before(begin));
-    from = begin + 1;
+  const std::size_t begin = find(list.text);
+  if (begin == View::npos) return -1;
+  if (list.is_item(begin, begin + value.size())) return to_index(list.items_before(begin));
+  // The item around that place is another one, and it is the first that holds the value.
+  const std::size_t separator = list.text.find(list.separator, begin);
+  if (separator == View::npos) return -1;
+  std::size_t next = separator + 1;
+  if (list.run == SeparatorRun::one_separator) {
+    next = std::min(list.text.find_first_not_of(list.separator, next), list.text.size());
   }
-  return walk_to_item(list, equals);
+  return walk_to_item(list, next, equals);
 }
 
 // The interface promises two work buffers, with a report for each that the heap refuses, and no
@@ -119,7 +152,7 @@ int find_folded(const char* list_text, char separator, SeparatorRun run, const c
     // A value in the other case must not run over a letter that separates.
     const bool letter = ascii_fold(LetterCase::lower, list.separator) !=
                         ascii_fold(LetterCase::upper, list.separator);
-    if (letter || !locale_folds_ascii(LetterCase::lower)) return walk_to_item(list, equals);
+    if (letter || !locale_folds_ascii(LetterCase::lower)) return walk_to_item(list, 0, equals);
     return find_item(
         list, value, [value](View piece) { return find_needle_ignoring_case(piece, value); },
         equals);

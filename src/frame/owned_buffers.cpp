@@ -9,6 +9,7 @@
 #include "frame/diagnostics.h"
 #include "frame/fixed_buffers.h"
 #include "platform/platform.h"
+#include "scan/move_bytes.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -95,7 +96,7 @@ bool Zeph_Copy_Mem(char** target, const char* source) {
     zeph::report_refused_copy(source);
     return false;
   }
-  if (n > 0) std::memmove(*target, source, n);
+  if (n > 0) zeph::move_bytes(*target, source, n);
   (*target)[n] = '\0';
   return true;
 }

@@ -2,8 +2,6 @@
 
 #include <cstring>
 
-#include "scan/wide.h"
-
 namespace zeph {
 namespace {
 
@@ -33,13 +31,6 @@ void put_hex_pairs_portable(HexDigits digits, char* out, const char* bytes, std:
   const auto pair_of = [&](char byte) { return pairs[static_cast<unsigned char>(byte)]; };
   for (std::size_t i = 0; i + 1 < size; ++i, out += 3) std::memcpy(out, pair_of(bytes[i]), 4);
   std::memcpy(out, pair_of(bytes[size - 1]), 3);
-}
-
-void put_hex_pairs(HexDigits digits, char* out, const char* bytes, std::size_t size) {
-#ifdef ZEPH_HAS_AVX2
-  if (size >= 8 && has_avx2()) return put_hex_pairs_avx2(digits, out, bytes, size);
-#endif
-  put_hex_pairs_portable(digits, out, bytes, size);
 }
 
 }  // namespace zeph

@@ -61,9 +61,13 @@ std::size_t find_in_range(const char* text, Range range, View pattern, CaseRule 
       [pattern, &table](View piece) { return find_needle_by_table(piece, pattern, table.bytes); });
 }
 
+// Most places that do not hold the pattern differ from it early.
 bool starts_with(const char* text, const char* pattern) {
-  while (*pattern != '\0' && *text == *pattern) ++text, ++pattern;
-  return *pattern == '\0';
+  for (int i = 0; i < 16; ++i, ++text, ++pattern) {
+    if (*pattern == '\0') return true;
+    if (*text != *pattern) return false;
+  }
+  return std::strncmp(text, pattern, std::strlen(pattern)) == 0;
 }
 
 // The exact search through a whole text. The first byte of most patterns is rare, and the runtime's
