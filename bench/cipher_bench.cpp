@@ -74,12 +74,14 @@ void add_peer(Row& added, Sealing& s, const unsigned char* key, bool encrypts) {
 
 void add_rows(Sealing& s, const std::string& input, const unsigned char* key) {
   Row& seal = row("cipher", "Zeph_Encrypt", input, s.text.size());
+  seal.reason("the same rounds; Zeph finds the end of the text and keeps the last block's state");
   seal.outputs([&s] { return take(s.record).substr(16); });
   seal.zeph([&s] { return Orbane::Zeph_Encrypt(&s.text[0], &s.record[0]); });
   add_peer(seal, s, key, true);
 
   Orbane::Zeph_Encrypt(&s.text[0], &s.record[0]);
   Row& open = row("cipher", "Zeph_Decrypt", input, s.back.size());
+  open.reason("the same rounds; Zeph turns the round keys at each call and keeps no copy of them");
   open.outputs([&s] { return take(s.back); });
   open.zeph([&s] { return Orbane::Zeph_Decrypt(&s.record[0], &s.back[0]); });
   add_peer(open, s, key, false);

@@ -33,6 +33,7 @@ void add_append_row(const char* operation, std::size_t size, Value value, const 
     return room.text;
   };
   row("compose", operation, "to " + size_text(size), size)
+      .reason("strcat finds the end and copies by one service; Zeph takes three calls")
       .outputs([&room] { return std::string(room.text); })
       .zeph([start, value] { return Orbane::Zeph_Cat(start(), value) != nullptr; })
       .peer(peer, [start, value, append] { return append(start(), value), true; });
@@ -68,7 +69,6 @@ void add_print_row(std::size_t size) {
   const std::string& name = keep(std::string(size, 'n'));
   const int room = static_cast<int>(size) + 64;
   auto& printed = row("compose", "Zeph_Splicing, %s=%d", size_text(size), size);
-  printed.reason("the runtime's vsnprintf prints, as its formats are what is promised");
   printed.zeph([&name, room] { return Orbane::Zeph_Splicing(room, "%s=%d", name.c_str(), 42); })
       .peer("snprintf to a String", [&name, room] {
         std::string text(static_cast<std::size_t>(room), '\0');
@@ -102,6 +102,7 @@ void add_copy_rows(std::size_t size) {
   char*& block = keep(static_cast<char*>(nullptr));
   char*& own = keep(static_cast<char*>(nullptr));
   row("compose", "Zeph_Copy_Mem, Zeph_Release_Mem", size_text(size), size)
+      .reason("two calls into the shared object, and errno is kept over the request")
       .zeph([&text, &block] {
         const bool copied = Orbane::Zeph_Copy_Mem(&block, text.c_str());
         Orbane::Zeph_Release_Mem(&block);

@@ -157,6 +157,7 @@ void add_byte_rows(Cut& c, const std::string& input) {
   const auto strtok_cut = [&c, outs, limit] { return cut_by_strtok<count>(c, outs.at, limit); };
   if (words) {
     row("fields", "Zeph_Seperate " + number, input, c.text.size())
+        .reason("nothing is read behind the limit: each field takes two services, not one")
         .outputs(read)
         .zeph([text, outs, &c] {
           return with_outputs<count>(
@@ -167,6 +168,7 @@ void add_byte_rows(Cut& c, const std::string& input) {
         .peer("copy + strtok_r", strtok_cut);
   } else {
     row("fields", "Zeph_Seperate_Char " + number, input, c.text.size())
+        .reason("the same services on long fields, and a call into the shared object")
         .outputs(read)
         .zeph([text, outs, &c] {
           return with_outputs<count>(outs.at, [&](auto... o) {
@@ -187,8 +189,7 @@ void add_string_rows(Cut& c, const std::string& input) {
                       std::string(c.separator == ' ' ? "Zeph_Seperate" : "Zeph_Seperate_Char") +
                           " String " + std::to_string(count),
                       input, c.text.size());
-  strings.reason(
-      "the requests are made one by one and looked at, and each field is cut at the limit");
+  strings.reason("a String ends at its first zero byte, which is looked for; find knows the size");
   strings.outputs([&c] { return c.take_strings(count); })
       .zeph([&c] {
         return with_outputs<count>(c.strings, [&](auto&... o) {

@@ -98,6 +98,7 @@ std::string list_of(std::size_t items) {
 
 void add_index_row(const std::string& text, const std::string& value, const std::string& input) {
   row("lists", "Zeph_Seperate_Char_Get_Index", input, text.size())
+      .reason("it searches first, in vain where the value turns up inside of other items")
       .zeph([&] { return Orbane::Zeph_Seperate_Char_Get_Index(text.c_str(), ',', value.c_str()); })
       .peer("strsep loop", [&] { return index_by_strtok(text, value.c_str()); })
       .peer("strchrnul walk", [&] { return index_by_walk(text.c_str(), value); })

@@ -224,8 +224,6 @@ void add_format_rows(const Batch& batch, const std::string& input, int code) {
   };
   auto& texts =
       row("number", "Zeph_Conv_Dbl_To_Str " + std::to_string(code), input, total_size(batch));
-  texts.reason(
-      "std::to_chars writes it, and it is asked whether the locale's decimal point is '.'");
   texts
       .outputs([&out] {
         const std::string text = out.text;

@@ -123,7 +123,6 @@ void add_replace_rows(std::size_t size) {
         Orbane::Zeph_Remove(work, 'b');
         return work;
       })
-      .reason("stores without branches: the same cost where a processor cannot guess the next hit")
       .peer("std::remove", [&] {
         work = pairs;
         work.erase(std::remove(work.begin(), work.end(), 'b'), work.end());

@@ -42,6 +42,7 @@ int find_by_view(const char* text, const char* pattern) {
 void add_rows(Search search, const std::string& input) {
   Search& s = keep(std::move(search));
   row("search", "Zeph_Find_Position", input, s.text.size())
+      .reason("the same service does it, behind a call into the shared object")
       .zeph([&s] { return Orbane::Zeph_Find_Position(s.text.c_str(), s.pattern.c_str()); })
       .peer("strstr",
             [&s] { return place(s.text.c_str(), strstr(s.text.c_str(), s.pattern.c_str())); })

@@ -60,6 +60,7 @@ void appended(Draw& draw) {
 
 void printed_to_size(Draw& draw) {
   const std::string text = draw.text(700), more = draw.piece(5);
+  const char* const last = draw.below(20) == 0 ? nullptr : more.c_str();
   const int size = draw.yes() ? draw.any_int() : draw.between(0, 800);
   if (size < 0) {
     EXPECT_THROW(Zeph_Splicing(size, "%s", "x"), std::bad_alloc);
@@ -70,7 +71,7 @@ void printed_to_size(Draw& draw) {
   const auto number = static_cast<unsigned>(draw.any_int());
   const int byte = draw.byte();
   const auto print = [&](auto printer) {
-    return printer(format, text.c_str(), size, more.c_str(), number, byte, size);
+    return printer(format, text.c_str(), size, last, number, byte, size);
   };
   const std::string whole = print([](auto... values) { return printed(values...); });
   EXPECT_EQ(print([size](auto... values) { return Zeph_Splicing(size, values...); }),

@@ -123,7 +123,7 @@ int index_in(const Fields& items, const std::string& value) {
 
 void index_of_value(Draw& draw) {
   const std::string list = list_text(draw);
-  const char separator = draw.yes() ? ' ' : ',';
+  const char separator = " ,a"[draw.below(3)];  // a letter has another case
   const Fields items = items_of(list, separator);
   std::string value = draw.piece(3, " ,aA");
   if (!items.empty() && draw.yes()) value = items[draw.below(items.size())];
@@ -135,9 +135,9 @@ void index_of_value(Draw& draw) {
     EXPECT_EQ(Orbane::Zeph_Seperate_Get_Index_L(text.data(), wanted.data()),
               index_in(lowered, folded(value)));
   } else {
-    EXPECT_EQ(Orbane::Zeph_Seperate_Char_Get_Index(text.data(), ',', wanted.data()),
+    EXPECT_EQ(Orbane::Zeph_Seperate_Char_Get_Index(text.data(), separator, wanted.data()),
               index_in(items, value));
-    EXPECT_EQ(Orbane::Zeph_Seperate_Char_Get_Index_L(text.data(), ',', wanted.data()),
+    EXPECT_EQ(Orbane::Zeph_Seperate_Char_Get_Index_L(text.data(), separator, wanted.data()),
               index_in(lowered, folded(value)));
   }
 }

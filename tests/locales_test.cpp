@@ -7,6 +7,10 @@
 #include <cstdlib>
 #include <string>
 
+#if __has_include(<langinfo.h>)
+#include <langinfo.h>
+#endif
+
 #include "number/number_harness.h"
 #include "zeph.h"
 
@@ -118,6 +122,19 @@ TEST(Locales, FoldsOfAMultibyteLocale) {
   if (!locale.in_force()) GTEST_SKIP() << "no such locale";
   expect_folds(ascii);
 }
+
+#ifdef NL_LOCALE_NAME
+// The runtime folds as the thread's own locale does, and so must the wide path.
+TEST(Locales, FoldsOfALocaleOfTheThread) {
+  setenv("LOCPATH", ZEPH_LOCALES_DIR, 1);
+  const locale_t turkish_locale = newlocale(LC_CTYPE_MASK, "tr_TR.ISO-8859-9", nullptr);
+  if (!turkish_locale) GTEST_SKIP() << "no such locale";
+  uselocale(turkish_locale);
+  expect_folds(turkish);
+  uselocale(LC_GLOBAL_LOCALE);
+  freelocale(turkish_locale);
+}
+#endif
 
 TEST(Locales, DecimalPoints) {
   expect_as_runtime(-1234.5678);

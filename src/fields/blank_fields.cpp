@@ -72,13 +72,13 @@ void split_blank_fields(const char* text, Sink fields) {
   if (fields.limit() == 0) return fields.put_empty();
   std::size_t size;
   text = put_first_field(fields, text, size);
-  if (count > 3 && size <= 32) {
-    const char* before;
-    do {
+  if constexpr (count > 3) {
+    const char* before = size <= 32 ? nullptr : text;
+    while (text != before && fields.left() > 2) {
       before = text;
       text = put_near_fields(fields, text);
       if (!text) return;
-    } while (text != before && fields.left() > 2);
+    }
   }
   put_fields_singly<Sink>(fields, text, size);
 }

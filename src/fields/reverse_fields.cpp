@@ -16,11 +16,11 @@ inline void split_reverse(char* text, char separator, char* const (&outputs)[cou
   std::size_t end = std::strlen(text);
   std::size_t k = 0;
   while (k + 1 < count) {
-    std::size_t at = behind_last(text, end, separator);
+    const std::size_t at = behind_last(text, end, separator);
     if (at == 0) break;
     put_field(outputs[k++], text + at, text + end, end);
-    --at;
-    end = run == SeparatorRun::one_separator ? at - run_at_back(text, at, separator) : at;
+    end = at - 1;
+    if constexpr (run == SeparatorRun::one_separator) end -= run_at_back(text, end, separator);
   }
   if (outputs[k] == text) {
     text[end] = '\0';

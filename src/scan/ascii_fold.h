@@ -61,21 +61,14 @@ inline void put_ascii_fold_16(LetterCase to, char* out, const char* from, std::s
   store_16(out + size - 16, other_case_16(tail, first));
 }
 
-// Sizes from 64 on, as wide as the processor allows.
-void put_long_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size);
-
 inline void put_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size) {
-  if (size > 64) {
-    put_long_ascii_fold(to, out, from, size);
-  } else if (size >= 16) {
-    put_ascii_fold_16(to, out, from, size);
-  } else if (size >= 8) {
-    put_short_ascii_fold<8>(to, out, from, size);
-  } else if (size >= 4) {
-    put_short_ascii_fold<4>(to, out, from, size);
-  } else {
-    put_ascii_fold_portable(to, out, from, size);
-  }
+#ifdef ZEPH_HAS_AVX2
+  if (size > 64 && has_avx2()) return put_ascii_fold_avx2(to, out, from, size);
+#endif
+  if (size >= 16) return put_ascii_fold_16(to, out, from, size);
+  if (size >= 8) return put_short_ascii_fold<8>(to, out, from, size);
+  if (size >= 4) return put_short_ascii_fold<4>(to, out, from, size);
+  put_ascii_fold_portable(to, out, from, size);
 }
 
 #else

@@ -53,6 +53,16 @@ TEST(Numbers, NegativeCountsAreRefusedWorkBuffers) {
   }
 }
 
+// The digits behind the written ones come within 2^-26 of a half, from both sides.
+TEST(Numbers, WrittenNearTheMiddle) {
+  if (!runtime_is_exact()) GTEST_SKIP() << "the runtime does not round to nearest";
+  for (const double value : {253.275540565, 43.1682864275, 7.23029181285, 53.6071083625}) {
+    char text[64];
+    std::snprintf(text, sizeof text, "%.10e", value);
+    expect_written(value, -10, text);
+  }
+}
+
 TEST(Numbers, EveryPowerOfTen) {
   if (!runtime_is_exact()) GTEST_SKIP() << "the runtime does not round to nearest";
   for (int exponent = -400; exponent <= 400; ++exponent) {
