@@ -126,9 +126,12 @@ TEST(Locales, FoldsOfAMultibyteLocale) {
 #ifdef NL_LOCALE_NAME
 // The runtime folds as the thread's own locale does, and so must the wide path.
 TEST(Locales, FoldsOfALocaleOfTheThread) {
-  setenv("LOCPATH", ZEPH_LOCALES_DIR, 1);
-  const locale_t turkish_locale = newlocale(LC_CTYPE_MASK, "tr_TR.ISO-8859-9", nullptr);
-  if (!turkish_locale) GTEST_SKIP() << "no such locale";
+  locale_t turkish_locale;
+  {
+    const ScopedLocale locale(LC_CTYPE, "tr_TR.ISO-8859-9");
+    if (!locale.in_force()) GTEST_SKIP() << "no such locale";
+    turkish_locale = duplocale(LC_GLOBAL_LOCALE);
+  }
   uselocale(turkish_locale);
   expect_folds(turkish);
   uselocale(LC_GLOBAL_LOCALE);
