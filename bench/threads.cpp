@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstdio>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <thread>
 #include <vector>
@@ -141,18 +142,21 @@ int run_threads(const RunOptions& options) {
   const std::string path = options.json.empty() ? "/dev/null" : options.json;
   JsonFile json(path);
   if (!json.open()) return 1;
-  json.begin_list("threads");
-  for (const Work& work : works) {
-    std::vector<double> ratios;
-    for (std::size_t i = 0; i < rounds; ++i) {
-      const double one = throughput(work, 1, length);
-      ratios.push_back(throughput(work, 2, length) / one);
+  // Round by round over all works, so that no work as a whole stands in a disturbance.
+  std::vector<std::vector<double>> ratios(std::size(works));
+  for (std::size_t round = 0; round < rounds; ++round) {
+    for (std::size_t i = 0; i < std::size(works); ++i) {
+      const double one = throughput(works[i], 1, length);
+      ratios[i].push_back(throughput(works[i], 2, length) / one);
     }
-    std::sort(ratios.begin(), ratios.end());
-    const double ratio = ratios[ratios.size() / 2];
-    std::printf("%-14s %5.2f times the throughput with two threads\n", work.name, ratio);
+  }
+  json.begin_list("threads");
+  for (std::size_t i = 0; i < std::size(works); ++i) {
+    std::sort(ratios[i].begin(), ratios[i].end());
+    const double ratio = ratios[i][rounds / 2];
+    std::printf("%-14s %5.2f times the throughput with two threads\n", works[i].name, ratio);
     json.begin_object();
-    json.put("family", std::string(work.name));
+    json.put("family", std::string(works[i].name));
     json.put("ratio", ratio);
     json.end_object();
   }

@@ -64,6 +64,7 @@ void printed_to_size(Draw& draw) {
   const int size = draw.yes() ? draw.any_int() : draw.between(0, 800);
   if (size < 0) {
     EXPECT_THROW(Zeph_Splicing(size, "%s", "x"), std::bad_alloc);
+    EXPECT_EQ(Zeph_Splicing(9, "%%"), "%");
     return;
   }
   // The second format goes to the runtime, the first one does not.

@@ -5,25 +5,15 @@
 #include "scan/wide.h"
 
 namespace zeph {
-
-std::size_t count_byte_portable(const char* text, std::size_t size, char byte) {
-  return static_cast<std::size_t>(std::count(text, text + size, byte));
-}
-
-std::size_t count_runs_portable(const char* text, std::size_t size, char byte) {
-  std::size_t count = 0;
-  for (std::size_t i = 0; i < size; ++i) count += text[i] == byte && text[i + 1] != byte;
-  return count;
-}
+namespace {
 
 #ifdef ZEPH_SCAN_SSE2
-
-namespace {
 
 // `hits` gives all bits of each of the 16 bytes at a place that count. They are summed up byte by
 // byte, and the sums put together before one can overflow.
 template <typename Hits>
-std::size_t count_wide(std::size_t steps, Hits hits) {
+std::size_t count_wide(std::size_t size, Hits hits) {
+  const std::size_t steps = size / 16;
   std::size_t count = 0;
   for (std::size_t step = 0; step < steps;) {
     const std::size_t end = std::min(steps, step + 255);
@@ -36,35 +26,38 @@ std::size_t count_wide(std::size_t steps, Hits hits) {
   return count;
 }
 
-}  // namespace
-
-std::size_t count_byte(const char* text, std::size_t size, char byte) {
-  const __m128i all = all_16(byte);
-  const std::size_t wide = size / 16;
-  return count_wide(wide, [=](std::size_t i) { return _mm_cmpeq_epi8(load_16(text + i), all); }) +
-         count_byte_portable(text + 16 * wide, size % 16, byte);
-}
-
-std::size_t count_runs(const char* text, std::size_t size, char byte) {
-  const __m128i all = all_16(byte);
-  const std::size_t wide = size / 16;
-  const auto ends = [=](std::size_t i) {
-    return _mm_andnot_si128(_mm_cmpeq_epi8(load_16(text + i + 1), all),
-                            _mm_cmpeq_epi8(load_16(text + i), all));
-  };
-  return count_wide(wide, ends) + count_runs_portable(text + 16 * wide, size % 16, byte);
-}
-
-#else
-
-std::size_t count_byte(const char* text, std::size_t size, char byte) {
-  return count_byte_portable(text, size, byte);
-}
-
-std::size_t count_runs(const char* text, std::size_t size, char byte) {
-  return count_runs_portable(text, size, byte);
+// Where the whole steps end.
+constexpr std::size_t wide_part(std::size_t size) {
+  return size - size % 16;
 }
 
 #endif
+
+}  // namespace
+
+std::size_t count_byte(const char* text, std::size_t size, char byte) {
+  std::size_t count = 0, i = 0;
+#ifdef ZEPH_SCAN_SSE2
+  const __m128i all = all_16(byte);
+  count = count_wide(size, [=](std::size_t at) { return _mm_cmpeq_epi8(load_16(text + at), all); });
+  i = wide_part(size);
+#endif
+  for (; i < size; ++i) count += text[i] == byte;
+  return count;
+}
+
+std::size_t count_runs(const char* text, std::size_t size, char byte) {
+  std::size_t count = 0, i = 0;
+#ifdef ZEPH_SCAN_SSE2
+  const __m128i all = all_16(byte);
+  count = count_wide(size, [=](std::size_t at) {
+    return _mm_andnot_si128(_mm_cmpeq_epi8(load_16(text + at + 1), all),
+                            _mm_cmpeq_epi8(load_16(text + at), all));
+  });
+  i = wide_part(size);
+#endif
+  for (; i < size; ++i) count += text[i] == byte && text[i + 1] != byte;
+  return count;
+}
 
 }  // namespace zeph

@@ -1,4 +1,4 @@
-// How often a byte stands in a range.
+// How often a byte stands in a range, alone or in runs.
 #ifndef ZEPH_SCAN_COUNT_BYTE_H
 #define ZEPH_SCAN_COUNT_BYTE_H
 
@@ -11,10 +11,6 @@ std::size_t count_byte(const char* text, std::size_t size, char byte);
 // How many runs of it end among the `size` bytes: places that have it while the next one does not.
 // text[size] is read too.
 std::size_t count_runs(const char* text, std::size_t size, char byte);
-
-// The twins.
-std::size_t count_byte_portable(const char* text, std::size_t size, char byte);
-std::size_t count_runs_portable(const char* text, std::size_t size, char byte);
 
 }  // namespace zeph
 
