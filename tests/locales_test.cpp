@@ -83,6 +83,8 @@ void expect_folds(const Folds& folds) {
     if (strcasecmp("\xC7", "\xE7") == (folds.cedilla_equal ? 0 : -32)) {
       EXPECT_EQ(Zeph_Compare_L(pair.a, pair.b), pair.equal);
       EXPECT_EQ(Zeph_Compare_L(a, b, 9), pair.equal);
+      std::string long_a = std::string(300, '-') + a, long_b = std::string(300, '-') + b;
+      EXPECT_EQ(Zeph_Compare_L(long_a, long_b), pair.equal);
       EXPECT_EQ(Zeph_Seperate_Char_Get_Index_L(list.c_str(), ',', pair.b), pair.equal ? 2 : -1);
     }
     EXPECT_EQ(Zeph_Find_Position_L(longer.c_str(), pair.b), pair.equal ? 100 : -1);

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "frame/locale_fold.h"
+#include "scan/ascii_fold.h"
 #include "scan/same_bytes.h"
 #include "zeph.h"
 
@@ -73,6 +75,23 @@ bool equal_prefix(const std::string& a, const std::string& b, std::size_t limit)
   return equal(a, b, std::min(a.size(), limit), std::min(b.size(), limit), equal_texts);
 }
 
+// From here on the widest instructions make up for the question of the locale.
+constexpr std::size_t long_text = 256;
+
+[[gnu::noinline]] bool long_equal_folded(const std::string& a, const std::string& b) {
+  return (locale_folds_ascii(LetterCase::lower) &&
+          ascii_folds_alike(a.data(), b.data(), a.size())) ||
+         strcasecmp(a.c_str(), b.c_str()) == 0;
+}
+
+bool equal_folded(const std::string& a, const std::string& b) {
+  if (never_fold_alike(*a.c_str(), *b.c_str())) return false;
+  // Short texts, which are most, go straight on.
+  if (__builtin_expect(a.size() >= long_text, 0) && a.size() == b.size())
+    return long_equal_folded(a, b);
+  return strcasecmp(a.c_str(), b.c_str()) == 0;
+}
+
 }  // namespace
 }  // namespace zeph
 
@@ -99,7 +118,7 @@ bool Zeph_Compare_L(const char* a, const char* b) {
 }
 
 bool Zeph_Compare_L(std::string& a, std::string& b) {
-  return zeph::equal_folded(a.c_str(), b.c_str());
+  return zeph::equal_folded(a, b);
 }
 
 bool Zeph_Compare_L(const char* a, const char* b, int n) {

@@ -30,6 +30,12 @@ inline void put_ascii_fold(LetterCase to, char* out, const char* from, std::size
 void put_ascii_fold_portable(LetterCase to, char* out, const char* from, std::size_t size);
 void put_ascii_fold_avx2(LetterCase to, char* out, const char* from, std::size_t size);
 
+// Whether two ranges of one size are the same but for the case of ASCII letters.
+bool ascii_folds_alike(const char* a, const char* b, std::size_t size);
+
+// How many bytes are, in steps of 128, in front of the first step that is not. Needs AVX2.
+std::size_t ascii_alike_128_avx2(const char* a, const char* b, std::size_t size);
+
 #ifdef ZEPH_SCAN_SSE2
 
 inline void store_16(char* out, __m128i bytes) {

@@ -79,6 +79,14 @@ TEST(Kernels, FoldsAndHexPairs) {
       ASSERT_EQ(std::string(out.data(), 3 * size), pairs);
     };
     expect_fold(zeph::put_ascii_fold);
+    std::string other = bytes;
+    for (char& byte : other) byte = draw.yes() ? zeph::ascii_fold(to, byte) : byte;
+    const GuardedText twin(other, End::bare);
+    ASSERT_TRUE(zeph::ascii_folds_alike(in.data(), twin.data(), size));
+    if (size > 0) {
+      twin.data()[draw.below(size)] ^= '\x04';
+      ASSERT_FALSE(zeph::ascii_folds_alike(in.data(), twin.data(), size));
+    }
     expect_fold(zeph::put_ascii_fold_portable);
     expect_pairs(zeph::put_hex_pairs);
     expect_pairs(zeph::put_hex_pairs_portable);
