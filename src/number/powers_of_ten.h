@@ -15,8 +15,7 @@ constexpr int highest_power = 308;
 // The first 128 bits of 5^exponent, cut off behind them; the first bit is set. 10^exponent has the
 // same bits and lies `exponent` binary places higher. The table starts with the lowest power; it is
 // 10 KiB of constants, worked out when the library is compiled.
-[[gnu::visibility("hidden")]] extern const std::array<Wide, highest_power - lowest_power + 1>
-    power_table;
+extern const std::array<Wide, highest_power - lowest_power + 1> power_table;
 
 inline const Wide& power_bits(int exponent) {
   return power_table[static_cast<std::size_t>(exponent - lowest_power)];
