@@ -15,6 +15,14 @@ check_cxx_source_compiles("
   int main() { return __builtin_cpu_supports(\"avx2\") ? 0 : 1; }" ZEPH_FOUND_AVX2)
 
 check_cxx_source_compiles("
+  #include <immintrin.h>
+  #ifdef _WIN32
+  #error none
+  #endif
+  [[gnu::target(\"avx512bw\")]] __m512i load(const char* a) { return _mm512_maskz_loadu_epi8(1, a); }
+  int main() { return __builtin_cpu_supports(\"avx512bw\") ? 0 : 1; }" ZEPH_FOUND_AVX512)
+
+check_cxx_source_compiles("
   #include <cctype>
   int main() { return (*__ctype_tolower_loc())['A'] + (*__ctype_toupper_loc())['a']; }"
   ZEPH_FOUND_CTYPE_TABLES)
@@ -24,6 +32,11 @@ if(NOT ZEPH_PORTABLE)
     list(APPEND ZEPH_SCAN_SOURCES scan/ascii_fold_avx2.cpp scan/find_pair_avx2.cpp
       scan/hex_pairs_avx2.cpp scan/last_byte_avx2.cpp scan/remove_byte_avx2.cpp)
     list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_AVX2)
+  endif()
+  if(ZEPH_FOUND_AVX512)
+    list(APPEND ZEPH_SCAN_SOURCES scan/ascii_fold_avx512.cpp scan/find_pair_avx512.cpp
+      scan/find_needle_avx512.cpp)
+    list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_AVX512)
   endif()
   if(ZEPH_FOUND_CTYPE_TABLES)
     list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_CTYPE_TABLES)

@@ -7,6 +7,9 @@ void put_ascii_fold_portable(LetterCase to, char* out, const char* from, std::si
 }
 
 bool ascii_folds_alike(const char* a, const char* b, std::size_t size) {
+#ifdef ZEPH_HAS_AVX512
+  if (has_avx512()) return ascii_folds_alike_avx512(a, b, size);
+#endif
   std::size_t i = 0;
 #ifdef ZEPH_HAS_AVX2
   if (has_avx2()) i = ascii_alike_128_avx2(a, b, size);

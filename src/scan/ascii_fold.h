@@ -26,12 +26,16 @@ constexpr char ascii_fold(LetterCase to, char byte) {
 // are not allowed. A short text costs no call.
 inline void put_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size);
 
-// The twins, with the same promise; that of AVX2 where the build has it, for at least 64 bytes.
+// The twins, with the same promise; the baseline is what the compiler's target has, the wider ones
+// stand where the build has them, that of AVX2 for at least 64 bytes.
+inline void put_ascii_fold_baseline(LetterCase to, char* out, const char* from, std::size_t size);
 void put_ascii_fold_portable(LetterCase to, char* out, const char* from, std::size_t size);
 void put_ascii_fold_avx2(LetterCase to, char* out, const char* from, std::size_t size);
+void put_ascii_fold_avx512(LetterCase to, char* out, const char* from, std::size_t size);
 
 // Whether two ranges of one size are the same but for the case of ASCII letters.
 bool ascii_folds_alike(const char* a, const char* b, std::size_t size);
+bool ascii_folds_alike_avx512(const char* a, const char* b, std::size_t size);
 
 // How many bytes are, in steps of 128, in front of the first step that is not. Needs AVX2.
 std::size_t ascii_alike_128_avx2(const char* a, const char* b, std::size_t size);
@@ -67,10 +71,7 @@ inline void put_ascii_fold_16(LetterCase to, char* out, const char* from, std::s
   store_16(out + size - 16, other_case_16(tail, first));
 }
 
-inline void put_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size) {
-#ifdef ZEPH_HAS_AVX2
-  if (size > 64 && has_avx2()) return put_ascii_fold_avx2(to, out, from, size);
-#endif
+inline void put_ascii_fold_baseline(LetterCase to, char* out, const char* from, std::size_t size) {
   if (size >= 16) return put_ascii_fold_16(to, out, from, size);
   if (size >= 8) return put_short_ascii_fold<8>(to, out, from, size);
   if (size >= 4) return put_short_ascii_fold<4>(to, out, from, size);
@@ -79,11 +80,21 @@ inline void put_ascii_fold(LetterCase to, char* out, const char* from, std::size
 
 #else
 
-inline void put_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size) {
+inline void put_ascii_fold_baseline(LetterCase to, char* out, const char* from, std::size_t size) {
   put_ascii_fold_portable(to, out, from, size);
 }
 
 #endif
+
+inline void put_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size) {
+#ifdef ZEPH_HAS_AVX512
+  if (has_avx512()) return put_ascii_fold_avx512(to, out, from, size);
+#endif
+#ifdef ZEPH_HAS_AVX2
+  if (size > 64 && has_avx2()) return put_ascii_fold_avx2(to, out, from, size);
+#endif
+  put_ascii_fold_baseline(to, out, from, size);
+}
 
 }  // namespace zeph
 

@@ -103,9 +103,10 @@ std::size_t find_filtered(View haystack, View needle, std::size_t from, Fold fol
   }
 }
 
-// The same in a haystack that one mask covers: all places where the two ends meet at once, of which
-// there are at most 64.
-std::size_t find_in_mask(View haystack, View needle) {
+}  // namespace
+
+// All places where the two ends meet at once, of which there are at most 64.
+std::size_t find_short_needle_baseline(View haystack, View needle) {
   const std::size_t count = haystack.size() - needle.size() + 1, last = needle.size() - 1;
   std::uint64_t places = byte_mask(haystack.data(), count, needle[0]);
   if (places != 0) places &= byte_mask(haystack.data() + last, count, needle[last]);
@@ -116,6 +117,15 @@ std::size_t find_in_mask(View haystack, View needle) {
   return View::npos;
 }
 
+namespace {
+
+std::size_t find_short_needle(View haystack, View needle) {
+#ifdef ZEPH_HAS_AVX512
+  if (has_avx512()) return find_short_needle_avx512(haystack, needle);
+#endif
+  return find_short_needle_baseline(haystack, needle);
+}
+
 }  // namespace
 
 // The runtime's search for one byte is the fastest there is: a rare first byte needs no more. In a
@@ -123,7 +133,7 @@ std::size_t find_in_mask(View haystack, View needle) {
 std::size_t find_needle(View haystack, View needle) {
   if (needle.empty()) return 0;
   if (needle.size() > haystack.size()) return View::npos;
-  if (haystack.size() <= mask_bytes) return find_in_mask(haystack, needle);
+  if (haystack.size() <= mask_bytes) return find_short_needle(haystack, needle);
   const std::size_t count = haystack.size() - needle.size() + 1;
   const void* const first = std::memchr(haystack.data(), needle[0], count);
   if (!first) return View::npos;

@@ -34,6 +34,10 @@ std::size_t find_needle_by_table(std::string_view haystack, std::string_view nee
 // find_needle() without its filter and without any service of the runtime.
 std::size_t find_needle_portable(std::string_view haystack, std::string_view needle);
 
+// The twins for a haystack of at most 64 bytes and a needle of 1 byte up to that size.
+std::size_t find_short_needle_baseline(std::string_view haystack, std::string_view needle);
+std::size_t find_short_needle_avx512(std::string_view haystack, std::string_view needle);
+
 }  // namespace zeph
 
 #endif  // ZEPH_SCAN_FIND_NEEDLE_H

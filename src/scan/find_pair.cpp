@@ -78,11 +78,8 @@ std::size_t find_pair_sse2(const char* text, std::size_t from, std::size_t count
 
 }  // namespace
 
-std::size_t find_pair(const char* text, std::size_t from, std::size_t count,
-                      const ProbePair& pair) {
-#ifdef ZEPH_HAS_AVX2
-  if (count - from >= 64 && has_avx2()) return find_pair_avx2(text, from, count, pair);
-#endif
+std::size_t find_pair_baseline(const char* text, std::size_t from, std::size_t count,
+                               const ProbePair& pair) {
   if (count < 8) return find_pair_portable(text, from, count, pair);
   return is_loose(pair) ? find_pair_sse2<true>(text, from, count, pair)
                         : find_pair_sse2<false>(text, from, count, pair);
@@ -90,11 +87,22 @@ std::size_t find_pair(const char* text, std::size_t from, std::size_t count,
 
 #else
 
-std::size_t find_pair(const char* text, std::size_t from, std::size_t count,
-                      const ProbePair& pair) {
+std::size_t find_pair_baseline(const char* text, std::size_t from, std::size_t count,
+                               const ProbePair& pair) {
   return find_pair_portable(text, from, count, pair);
 }
 
 #endif
+
+std::size_t find_pair(const char* text, std::size_t from, std::size_t count,
+                      const ProbePair& pair) {
+#ifdef ZEPH_HAS_AVX512
+  if (has_avx512()) return find_pair_avx512(text, from, count, pair);
+#endif
+#ifdef ZEPH_HAS_AVX2
+  if (count - from >= 64 && has_avx2()) return find_pair_avx2(text, from, count, pair);
+#endif
+  return find_pair_baseline(text, from, count, pair);
+}
 
 }  // namespace zeph

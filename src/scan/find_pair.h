@@ -27,11 +27,16 @@ constexpr bool is_loose(const ProbePair& pair) {
 // is read.
 std::size_t find_pair(const char* text, std::size_t from, std::size_t count, const ProbePair& pair);
 
-// The twins. That of AVX2 needs a `count` of at least 32.
+// The twins; the baseline is what the compiler's target has. That of AVX2 needs a `count` of at
+// least 32, and more than `from`.
 std::size_t find_pair_portable(const char* text, std::size_t from, std::size_t count,
+                               const ProbePair& pair);
+std::size_t find_pair_baseline(const char* text, std::size_t from, std::size_t count,
                                const ProbePair& pair);
 std::size_t find_pair_avx2(const char* text, std::size_t from, std::size_t count,
                            const ProbePair& pair);
+std::size_t find_pair_avx512(const char* text, std::size_t from, std::size_t count,
+                             const ProbePair& pair);
 
 }  // namespace zeph
 

@@ -1,5 +1,6 @@
 // What the wide twins of the scan primitives share. ZEPH_SCAN_SSE2 stands where the build's
-// baseline has SSE2; ZEPH_HAS_AVX2 comes from the build where AVX2 twins are compiled beside it.
+// baseline has SSE2; ZEPH_HAS_AVX2 and ZEPH_HAS_AVX512 come from the build where these twins are
+// compiled beside it.
 #ifndef ZEPH_SCAN_WIDE_H
 #define ZEPH_SCAN_WIDE_H
 
@@ -56,10 +57,15 @@ inline std::size_t highest_bit(unsigned bits) {
 
 #endif
 
-#ifdef ZEPH_HAS_AVX2
 // A load and a test: the compiler's runtime asks the processor once, when the program starts.
+#ifdef ZEPH_HAS_AVX2
 inline bool has_avx2() {
   return __builtin_cpu_supports("avx2");
+}
+#endif
+#ifdef ZEPH_HAS_AVX512
+inline bool has_avx512() {
+  return __builtin_cpu_supports("avx512bw");
 }
 #endif
 

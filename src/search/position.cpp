@@ -34,20 +34,21 @@ template <typename Find>
 std::size_t find_in_pieces(const char* text, Range range, std::size_t size, Find find) {
   // A match may lie across two pieces, so that size - 1 bytes are searched again. Pieces of four
   // times that size keep the whole search linear.
-  std::size_t from = range.begin, known = from, piece = std::max(first_piece, 4 * size);
-  for (;;) {
-    const std::size_t wanted = std::min(piece, range.end - known);
+  std::size_t from = range.begin, known = 0, piece = std::max(first_piece, 4 * size);
+  for (std::size_t wanted = std::min(from + piece, range.end);;) {
     const std::size_t here = strnlen(text + known, wanted);
     known += here;
+    if (known < from) return View::npos;
     const std::size_t found = find(View(text + from, known - from));
     if (found != View::npos) return from + found;
     if (here < wanted || known == range.end) return View::npos;
     from = std::max(from, known - std::min(known, size - 1));
     if (piece < largest_piece) piece *= growth;
+    wanted = std::min(piece, range.end - known);
   }
 }
 
-// The range begins inside the text or at its terminator. The pattern is not empty.
+// The pattern is not empty.
 std::size_t find_in_range(const char* text, Range range, View pattern, CaseRule rule) {
   const auto find_by = [&](auto find) { return find_in_pieces(text, range, pattern.size(), find); };
   if (rule == CaseRule::exact) {
@@ -70,29 +71,53 @@ bool starts_with(const char* text, const char* pattern) {
   return std::strncmp(text, pattern, std::strlen(pattern)) == 0;
 }
 
-// The exact search through a whole text. The first byte of most patterns is rare, and the runtime's
-// walk to it needs no length: the first place where it stands decides most searches. Else the text
-// goes on for a bit or it is a long one: one look at what is near, a few more walks, the filter.
-std::size_t find_exact(const char* text, const char* pattern_text) {
-  const char* from = find_byte_or_end(text, *pattern_text);
-  if (*from == '\0') return View::npos;
-  if (starts_with(from, pattern_text)) return static_cast<std::size_t>(from - text);
-  ++from;
-  const View pattern(pattern_text);
-  const auto passed = static_cast<std::size_t>(from - text);
-  const std::size_t known = strnlen(from, mask_bytes);
-  const std::size_t found = find_needle(View(from, known), pattern);
-  if (found != View::npos) return passed + found;
+// How many bytes of the two are the same.
+std::size_t common_bytes(const char* text, const char* pattern) {
+  std::size_t i = 0;
+  while (pattern[i] != '\0' && text[i] == pattern[i]) ++i;
+  return i;
+}
+
+// The places from `from` + 1 on; at `from` the pattern does not stand. One look at what is near
+// tells, or the text goes on. Then the byte that told the first place apart may be a rare one: the
+// runtime's walk to it decides. The filter does what is left.
+std::size_t find_behind(const char* text, const char* from, View pattern) {
+  const char* const near = from + 1;
+  const std::size_t known = strnlen(near, mask_bytes);
+  const std::size_t found = find_needle(View(near, known), pattern);
+  if (found != View::npos) return static_cast<std::size_t>(near - text) + found;
   if (known < mask_bytes) return View::npos;
-  from += known - std::min(known, pattern.size() - 1);
-  for (int candidates = 0; candidates < 4; ++candidates) {
-    from = find_byte_or_end(from, pattern[0]);
+  const std::size_t other = common_bytes(from, pattern.data());
+  from = near + known - std::min(known, pattern.size() - 1);
+  if (other <= known) {
+    from = find_byte_or_end(from + other, pattern[other]);
     if (*from == '\0') return View::npos;
-    if (starts_with(from, pattern_text)) return static_cast<std::size_t>(from - text);
+    from -= other;
+    if (starts_with(from, pattern.data())) return static_cast<std::size_t>(from - text);
     ++from;
   }
-  const Range rest{static_cast<std::size_t>(from - text), View::npos};
-  return find_in_range(text, rest, pattern, CaseRule::exact);
+  const std::size_t far = find_in_range(from, {0, View::npos}, pattern, CaseRule::exact);
+  return far == View::npos ? far : static_cast<std::size_t>(from - text) + far;
+}
+
+// The three ways of a search through a whole text stand apart, so that none saves registers for
+// another one.
+[[gnu::noinline]] int find_far(const char* text, const char* from, const char* pattern) {
+  return to_position(find_behind(text, from, pattern));
+}
+
+// The first byte of most patterns is rare, and the runtime's walk to it needs no length: the first
+// place where it stands decides most searches.
+[[gnu::noinline]] int find_exact(const char* text, const char* pattern) {
+  const char* const from = find_byte_or_end(text, *pattern);
+  if (*from == '\0') return not_found;
+  if (!starts_with(from, pattern)) return find_far(text, from, pattern);
+  return to_position(static_cast<std::size_t>(from - text));
+}
+
+[[gnu::noinline]] int find_byte(const char* text, char byte) {
+  const char* const found = std::strchr(text, byte);
+  return found ? to_position(static_cast<std::size_t>(found - text)) : not_found;
 }
 
 }  // namespace
@@ -102,16 +127,13 @@ int find_position(const char* text, const char* pattern, CaseRule rule) {
   if (rule == CaseRule::ignored) {
     return to_position(find_in_range(text, {0, View::npos}, pattern, rule));
   }
-  if (pattern[1] != '\0') return to_position(find_exact(text, pattern));
-  const char* const found = std::strchr(text, pattern[0]);
-  return found ? to_position(static_cast<std::size_t>(found - text)) : not_found;
+  return pattern[1] == '\0' ? find_byte(text, pattern[0]) : find_exact(text, pattern);
 }
 
 int find_position(const char* text, SearchSpan span, const char* pattern, CaseRule rule) {
   const int start = std::max(span.start, 0);
   if (span.end <= start || pattern[0] == '\0') return not_found;
   const Range range{static_cast<std::size_t>(start), static_cast<std::size_t>(span.end)};
-  if (strnlen(text, range.begin) < range.begin) return not_found;
   return to_position(find_in_range(text, range, pattern, rule));
 }
 

@@ -83,16 +83,20 @@ TEST(Kernels, FoldsAndHexPairs) {
     for (char& byte : other) byte = draw.yes() ? zeph::ascii_fold(to, byte) : byte;
     const GuardedText twin(other, End::bare);
     ASSERT_TRUE(zeph::ascii_folds_alike(in.data(), twin.data(), size));
-    if (size > 0) {
-      twin.data()[draw.below(size)] ^= '\x04';
+    [[maybe_unused]] const std::size_t differing = draw.below(size + 1);
+    if (differing < size) {
+      twin.data()[differing] ^= '\x04';
       ASSERT_FALSE(zeph::ascii_folds_alike(in.data(), twin.data(), size));
     }
     expect_fold(zeph::put_ascii_fold_portable);
+    expect_fold(zeph::put_ascii_fold_baseline);
     expect_pairs(zeph::put_hex_pairs);
     expect_pairs(zeph::put_hex_pairs_portable);
 #ifdef ZEPH_HAS_AVX2
     if (has_avx2 && size >= 8) expect_pairs(zeph::put_hex_pairs_avx2);
     if (!has_avx2 || size < 64) return;
+    ASSERT_EQ(zeph::ascii_alike_128_avx2(in.data(), in.data(), size), size / 128 * 128);
+    ASSERT_LE(zeph::ascii_alike_128_avx2(in.data(), twin.data(), size), differing);
     zeph::put_ascii_fold_avx2(to, in.data(), in.data(), size);
     ASSERT_EQ(std::string(in.data(), size), fold) << "in its place";
 #endif
@@ -183,6 +187,7 @@ TEST(Kernels, FindPair) {
     const GuardedText in(text, End::bare);
     ASSERT_EQ(zeph::find_pair(in.data(), from, count, pair), expected);
     ASSERT_EQ(zeph::find_pair_portable(in.data(), from, count, pair), expected);
+    ASSERT_EQ(zeph::find_pair_baseline(in.data(), from, count, pair), expected);
 #ifdef ZEPH_HAS_AVX2
     if (!has_avx2 || count < 32 || from == count) return;
     ASSERT_EQ(zeph::find_pair_avx2(in.data(), from, count, pair), expected);
@@ -207,6 +212,9 @@ void expect_found(const std::string& text, const std::string& needle) {
   SCOPED_TRACE(needle + " in " + text);
   ASSERT_EQ(zeph::find_needle(haystack, edged), text.find(needle));
   ASSERT_EQ(zeph::find_needle_portable(haystack, edged), text.find(needle));
+  if (!needle.empty() && needle.size() <= text.size() && text.size() <= 64) {
+    ASSERT_EQ(zeph::find_short_needle_baseline(haystack, edged), text.find(needle));
+  }
   ASSERT_EQ(zeph::find_last_needle(haystack, edged), text.rfind(needle));
   ASSERT_EQ(zeph::find_needle_ignoring_case(haystack, edged), folded(text).find(folded(needle)));
   ASSERT_EQ(zeph::find_needle_by_table(haystack, edged, table),
