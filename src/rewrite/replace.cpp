@@ -53,6 +53,13 @@ struct GapText {
   View unsearched() const {
     return {bytes + rest, end - rest};
   }
+  // Whether these few bytes are the last ones that are done.
+  bool ends_with(View top) const {
+    if (top.size() > done) return false;
+    std::size_t same = 0;
+    while (same < top.size() && bytes[done - 1 - same] == top[top.size() - 1 - same]) ++same;
+    return same == top.size();
+  }
   // The next `n` bytes are done.
   void pass(std::size_t n) {
     if (done == rest) {
@@ -92,20 +99,22 @@ void change(GapText& text, std::size_t at, View pattern, View replacement, After
 // Behind a change others are often near: byte by byte, the bytes that are done are a stack on whose
 // top the pattern shows up. Ends where none did for a while; the bytes that may start an occurrence
 // stand in front of the rest again. The replacement is shorter than the pattern.
-void change_near(GapText& text, View pattern, View replacement) {
+GapText change_near(GapText text, View pattern, View replacement) {
   constexpr std::size_t quiet = 32;
   const std::size_t last = pattern.size() - 1;
   for (std::size_t left = quiet; left > 0 && text.rest != text.end; --left) {
     const char next = text.bytes[text.rest++];
-    text.bytes[text.done++] = next;
-    if (next != pattern[last] || text.done <= last) continue;
-    if (View(text.bytes + text.done - pattern.size(), last) != pattern.substr(0, last)) continue;
-    text.done -= pattern.size();
+    if (next != pattern[last] || !text.ends_with(pattern.substr(0, last))) {
+      text.bytes[text.done++] = next;
+      continue;
+    }
+    text.done -= last;
     text.rest -= replacement.size();
     put(text.bytes + text.rest, replacement);
     left = quiet;
   }
   text.take_back(std::min(last, text.done));
+  return text;
 }
 
 // Changes all occurrences and closes the gap. Returns the new size. The gap never gets too small:
@@ -117,7 +126,7 @@ std::size_t change_all(GapText text, View pattern, View replacement, AfterChange
     change(text, at, pattern, replacement, then);
     // Where each byte asks for a comparison, only short patterns keep the whole linear.
     if (then == AfterChange::look_again && pattern.size() <= 16) {
-      change_near(text, pattern, replacement);
+      text = change_near(text, pattern, replacement);
     }
   }
   text.pass(text.end - text.rest);
