@@ -73,10 +73,13 @@ template <std::size_t lanes, typename Direction>
   for (std::size_t i = 0; i < lanes; ++i) {
     blocks[i] = _mm_xor_si128(load_bytes(in + i * block_size), key);
   }
-  for (int r = 1; r < rounds; ++r) {
+  const auto inner_round = [&](int r) __attribute__((target("aes"), always_inline)) {
     key = direction.inner_key(r);
     for (__m128i& block : blocks) block = Direction::round(block, key);
-  }
+  };
+  // Keys of any size have these rounds: the compiler unrolls them, which few blocks gain by.
+  for (int r = 1; r < 10; ++r) inner_round(r);
+  for (int r = 10; r < rounds; ++r) inner_round(r);
   key = direction.outer_key(rounds);
   for (std::size_t i = 0; i < lanes; ++i) {
     store_bytes(out + i * block_size, Direction::last_round(blocks[i], key));
