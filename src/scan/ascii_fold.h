@@ -88,7 +88,7 @@ inline void put_ascii_fold_baseline(LetterCase to, char* out, const char* from, 
 
 inline void put_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size) {
 #ifdef ZEPH_HAS_AVX512
-  if (has_avx512()) return put_ascii_fold_avx512(to, out, from, size);
+  if (size > 32 && has_avx512()) return put_ascii_fold_avx512(to, out, from, size);
 #endif
 #ifdef ZEPH_HAS_AVX2
   if (size > 64 && has_avx2()) return put_ascii_fold_avx2(to, out, from, size);
