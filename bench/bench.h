@@ -140,6 +140,7 @@ class Row {
   Row& time(Kind kind, const char* who, Operation operation, const char* differs = nullptr) {
     const auto loop = [operation](benchmark::State& state) {
       Operation call = operation;  // a local, so that the loop has what it refers to in registers
+      benchmark::DoNotOptimize(call());  // whoever comes first would else meet the cold cache
       for (auto _ : state) benchmark::DoNotOptimize(call());
     };
     benchmark::RegisterBenchmark(add_timing(kind, who, differs).c_str(), loop);
@@ -170,13 +171,35 @@ std::string size_text(std::size_t size);
 // A new row. `bytes` is what one call works through, for the throughput column.
 Row& row(const char* family, std::string operation, std::string input, std::size_t bytes);
 
-// Holds what the operations work on until the program ends.
+// Holds what the operations work on until the program ends, from a cache line on: what stands
+// inside of a fixture lies at the same place of its lines in every run.
 template <typename Fixture>
 Fixture& keep(Fixture fixture) {
-  static std::vector<std::unique_ptr<Fixture>> kept;
-  kept.push_back(std::make_unique<Fixture>(std::move(fixture)));
-  return *kept.back();
+  struct alignas(64) Kept {
+    Fixture fixture;
+  };
+  static std::vector<std::unique_ptr<Kept>> kept;
+  kept.push_back(std::unique_ptr<Kept>(new Kept{std::move(fixture)}));
+  return kept.back()->fixture;
 }
+
+// The byte texts and output rooms of one fixture, at places that the heap does not decide; else a
+// figure would tell of them. Each starts on a cache line. A later one starts lower in its page than
+// those before it, so that what is read ahead of a store never has its address in the low 12 bits:
+// the inputs come first, then the outputs. Seven find a place of their own.
+class Places {
+ public:
+  // `text` and a terminator, in a room of at least `room` bytes.
+  char* text(std::string_view text, std::size_t room = 0);
+  // Zero bytes.
+  char* room(std::size_t size);
+
+ private:
+  struct Free {
+    void operator()(char* block) const;
+  };
+  std::vector<std::unique_ptr<char, Free>> blocks_;
+};
 
 // Times all rows and prints the table. `arguments` are Google Benchmark's own options. Returns the
 // exit status: 1 if any answer was wrong.

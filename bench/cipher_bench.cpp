@@ -1,5 +1,6 @@
 // Sealing and opening under a 256-bit key against the same blocks done by OpenSSL, which holds its
 // key ready in a context of its own.
+#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -14,20 +15,26 @@ namespace zeph_bench {
 namespace {
 
 struct Sealing {
-  std::string text, record, back;
+  std::size_t size;
+  Places places;
+  char *text, *record, *back;
 
-  explicit Sealing(std::size_t size) : text(size, 't'), record(16 + size, '\0'), back(size, '\0') {
-    Orbane::Zeph_Encrypt(&text[0], &record[0]);
+  explicit Sealing(std::size_t bytes)
+      : size(bytes),
+        text(places.text(std::string(size, 't'))),
+        record(places.room(16 + size)),
+        back(places.room(size)) {
+    Orbane::Zeph_Encrypt(text, record);
   }
 
   unsigned char* blocks() {
-    return reinterpret_cast<unsigned char*>(&record[16]);
+    return reinterpret_cast<unsigned char*>(record + 16);
   }
 };
 
-std::string take(std::string& output) {
-  std::string all = output;
-  output.assign(output.size(), '#');
+std::string take(char* output, std::size_t size) {
+  std::string all(output, size);
+  std::fill(output, output + size, '#');
   return all;
 }
 
@@ -59,12 +66,10 @@ void add_peer(Row& added, Sealing& s, const unsigned char* key, bool encrypts) {
 #if ZEPH_BENCH_HAS_OPENSSL
   auto& cipher = keep(OpensslCipher(key, encrypts));
   if (encrypts) {
-    added.peer("EVP ECB",
-               [&cipher, &s] { return cipher.run(&s.text[0], s.blocks(), s.text.size()); });
+    added.peer("EVP ECB", [&cipher, &s] { return cipher.run(s.text, s.blocks(), s.size); });
   } else {
-    auto* const back = reinterpret_cast<unsigned char*>(&s.back[0]);
-    added.peer("EVP ECB",
-               [&cipher, &s, back] { return cipher.run(s.blocks(), back, s.back.size()); });
+    auto* const back = reinterpret_cast<unsigned char*>(s.back);
+    added.peer("EVP ECB", [&cipher, &s, back] { return cipher.run(s.blocks(), back, s.size); });
   }
 #else
   static_cast<void>(s), static_cast<void>(key), static_cast<void>(encrypts);
@@ -73,17 +78,17 @@ void add_peer(Row& added, Sealing& s, const unsigned char* key, bool encrypts) {
 }
 
 void add_rows(Sealing& s, const std::string& input, const unsigned char* key) {
-  Row& seal = row("cipher", "Zeph_Encrypt", input, s.text.size());
+  Row& seal = row("cipher", "Zeph_Encrypt", input, s.size);
   seal.reason("the same rounds; Zeph finds the end of the text and keeps the last block's state");
-  seal.outputs([&s] { return take(s.record).substr(16); });
-  seal.zeph([&s] { return Orbane::Zeph_Encrypt(&s.text[0], &s.record[0]); });
+  seal.outputs([&s] { return take(s.record + 16, s.size); });
+  seal.zeph([&s] { return Orbane::Zeph_Encrypt(s.text, s.record); });
   add_peer(seal, s, key, true);
 
-  Orbane::Zeph_Encrypt(&s.text[0], &s.record[0]);
-  Row& open = row("cipher", "Zeph_Decrypt", input, s.back.size());
+  Orbane::Zeph_Encrypt(s.text, s.record);
+  Row& open = row("cipher", "Zeph_Decrypt", input, s.size);
   open.reason("the same rounds; Zeph turns the round keys at each call and keeps no copy of them");
-  open.outputs([&s] { return take(s.back); });
-  open.zeph([&s] { return Orbane::Zeph_Decrypt(&s.record[0], &s.back[0]); });
+  open.outputs([&s] { return take(s.back, s.size); });
+  open.zeph([&s] { return Orbane::Zeph_Decrypt(s.record, s.back); });
   add_peer(open, s, key, false);
 }
 

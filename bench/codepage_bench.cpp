@@ -18,8 +18,8 @@ namespace {
 
 struct Conversion {
   const char *operation, *from, *to;  // the encodings by the names that both peers know
-  std::string text;
-  std::size_t room;
+  char* text;
+  std::size_t size, room;
 #if ZEPH_BENCH_HAS_ICONV
   iconv_t iconv = {};
 #endif
@@ -31,8 +31,8 @@ struct Conversion {
 #if ZEPH_BENCH_HAS_ICONV
 std::string by_iconv(Conversion& c) {
   std::string result(c.room, '\0');
-  char *in = c.text.data(), *out = result.data();
-  std::size_t in_left = c.text.size(), out_left = c.room;
+  char *in = c.text, *out = result.data();
+  std::size_t in_left = c.size, out_left = c.room;
   iconv(c.iconv, &in, &in_left, &out, &out_left);
   result.resize(c.room - out_left);
   return result;
@@ -43,12 +43,12 @@ std::string by_iconv(Conversion& c) {
 std::string by_icu(Conversion& c) {
   std::string result(c.room, '\0');
   char* out = result.data();
-  const char* in = c.text.data();
+  const char* in = c.text;
   UChar pivot[1024];
   UChar *pivot_from = pivot, *pivot_to = pivot;
   UErrorCode status = U_ZERO_ERROR;
-  ucnv_convertEx(c.icu_to, c.icu_from, &out, out + c.room, &in, in + c.text.size(), pivot,
-                 &pivot_from, &pivot_to, pivot + 1024, true, true, &status);
+  ucnv_convertEx(c.icu_to, c.icu_from, &out, out + c.room, &in, in + c.size, pivot, &pivot_from,
+                 &pivot_to, pivot + 1024, true, true, &status);
   result.resize(static_cast<std::size_t>(out - result.data()));
   return result;
 }
@@ -56,8 +56,8 @@ std::string by_icu(Conversion& c) {
 
 void add_rows(Conversion made, std::string (*convert)(const char*), const std::string& input) {
   Conversion& c = keep(std::move(made));
-  Row& timed = row("codepage", c.operation, input, c.text.size());
-  timed.zeph([&c, convert] { return convert(c.text.c_str()); });
+  Row& timed = row("codepage", c.operation, input, c.size);
+  timed.zeph([&c, convert] { return convert(c.text); });
 #if ZEPH_BENCH_HAS_ICONV
   c.iconv = iconv_open(c.to, c.from);
   timed.peer("iconv", [&c] { return by_iconv(c); });
@@ -107,9 +107,12 @@ void register_codepage_rows() {
       // The same text in both directions; as UTF-8 the Chinese one is half as long again.
       const std::string utf8 = Orbane::Zeph_ANSI_to_UTF8(input.ansi.c_str());
       const std::string text = std::string(input.kind) + ", " + size_text(size) + " of ANSI";
-      add_rows({"Zeph_UTF8_to_ANSI", "UTF-8", "CP936", utf8, utf8.size()},
+      char* const from_utf8 = keep(Places()).text(utf8);
+      char* const from_ansi = keep(Places()).text(input.ansi);
+      const std::size_t size_utf8 = utf8.size(), size_ansi = input.ansi.size();
+      add_rows({"Zeph_UTF8_to_ANSI", "UTF-8", "CP936", from_utf8, size_utf8, size_utf8},
                Orbane::Zeph_UTF8_to_ANSI, text);
-      add_rows({"Zeph_ANSI_to_UTF8", "CP936", "UTF-8", input.ansi, 2 * input.ansi.size()},
+      add_rows({"Zeph_ANSI_to_UTF8", "CP936", "UTF-8", from_ansi, size_ansi, 2 * size_ansi},
                Orbane::Zeph_ANSI_to_UTF8, text);
     }
   }

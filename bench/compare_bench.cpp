@@ -2,10 +2,8 @@
 // read) and on texts that differ in their first and in their last byte.
 #include <strings.h>
 
-#include <cstdint>
 #include <cstring>
 #include <string>
-#include <vector>
 
 #if ZEPH_BENCH_HAS_ABSEIL
 #include <absl/strings/match.h>
@@ -20,22 +18,10 @@
 namespace zeph_bench {
 namespace {
 
-// The byte texts start on cache lines: where a short one happens to cross a page, the runtime's
-// comparison takes a slower way, and rows would differ by where the heap put their texts.
-struct Lines {
-  std::vector<char> room;
-  char* text;
-
-  explicit Lines(const std::string& from) : room(from.size() + 64) {
-    const auto behind = reinterpret_cast<std::uintptr_t>(room.data()) % 64;
-    text = room.data() + (behind == 0 ? 0 : 64 - behind);
-    text[from.copy(text, from.size())] = '\0';
-  }
-};
-
 struct Pair {
   std::string a, b;
   char *a_bytes, *b_bytes;
+  Places places;
   int n;  // the count of the prefix members: all but the last byte
 };
 
@@ -50,8 +36,8 @@ Pair make_pair(std::size_t size, bool fold, char first) {
   }
   pair.b.front() = first;
   pair.n = static_cast<int>(size) - 1;
-  pair.a_bytes = keep(Lines(pair.a)).text;
-  pair.b_bytes = keep(Lines(pair.b)).text;
+  pair.a_bytes = pair.places.text(pair.a);
+  pair.b_bytes = pair.places.text(pair.b);
   return pair;
 }
 

@@ -18,23 +18,20 @@
 namespace zeph_bench {
 namespace {
 
-struct Room {
-  char text[2048] = "";
-};
+constexpr std::size_t room_size = 2048;
 
 // What is appended to a text of so many bytes; each call starts with that text again.
 template <typename Value, typename Append>
 void add_append_row(const char* operation, std::size_t size, Value value, const char* peer,
                     Append append) {
-  Room& room = keep(Room{});
-  std::memset(room.text, 'x', size);
-  const auto start = [&room, size] {
-    room.text[size] = '\0';
-    return room.text;
+  char* const room = keep(Places()).text(std::string(size, 'x'), room_size);
+  const auto start = [room, size] {
+    room[size] = '\0';
+    return room;
   };
   row("compose", operation, "to " + size_text(size), size)
       .reason("strcat finds the end and copies by one service; Zeph takes three calls")
-      .outputs([&room] { return std::string(room.text); })
+      .outputs([room] { return std::string(room); })
       .zeph([start, value] { return Orbane::Zeph_Cat(start(), value) != nullptr; })
       .peer(peer, [start, value, append] { return append(start(), value), true; });
 }
@@ -46,7 +43,10 @@ void add_append_row(const char* operation, std::size_t size, Value value, const 
 }
 
 void add_append_rows(std::size_t size) {
-  add_append_row("Zeph_Cat, 12 bytes", size, static_cast<const char*>("Pressure0.75"), "strcat",
+  Places& places = keep(Places());
+  places.room(1);  // the place that the text has among its own
+  const char* const more = places.text("Pressure0.75");
+  add_append_row("Zeph_Cat, 12 bytes", size, more, "strcat",
                  [](char* text, const char* more) { std::strcat(text, more); });
   add_append_row("Zeph_Cat, char", size, ';', "strlen, two bytes", append_byte);
   add_append_row("Zeph_Cat, int", size, 421337, "strlen, sprintf", [](char* text, int value) {
@@ -66,52 +66,50 @@ void add_append_rows(std::size_t size) {
 }
 
 void add_print_row(std::size_t size) {
-  const std::string& name = keep(std::string(size, 'n'));
+  const char* const name = keep(Places()).text(std::string(size, 'n'));
   const int room = static_cast<int>(size) + 64;
   auto& printed = row("compose", "Zeph_Splicing, %s=%d", size_text(size), size);
-  printed.zeph([&name, room] { return Orbane::Zeph_Splicing(room, "%s=%d", name.c_str(), 42); })
-      .peer("snprintf to a String", [&name, room] {
+  printed.zeph([name, room] { return Orbane::Zeph_Splicing(room, "%s=%d", name, 42); })
+      .peer("snprintf to a String", [name, room] {
         std::string text(static_cast<std::size_t>(room), '\0');
-        const int length = std::snprintf(text.data(), text.size(), "%s=%d", name.c_str(), 42);
+        const int length = std::snprintf(text.data(), text.size(), "%s=%d", name, 42);
         text.resize(static_cast<std::size_t>(length));
         return text;
       });
 #if ZEPH_BENCH_HAS_ABSEIL
-  printed.peer("absl::StrFormat", [&name] { return absl::StrFormat("%s=%d", name, 42); });
+  printed.peer("absl::StrFormat", [name] { return absl::StrFormat("%s=%d", name, 42); });
 #else
   printed.missing_peer("abseil");
 #endif
 #if ZEPH_BENCH_HAS_FMT
-  printed.peer("fmt::sprintf", [&name] { return fmt::sprintf("%s=%d", name, 42); });
+  printed.peer("fmt::sprintf", [name] { return fmt::sprintf("%s=%d", name, 42); });
 #else
   printed.missing_peer("fmt");
 #endif
 }
 
 void add_copy_rows(std::size_t size) {
-  const std::string& text = keep(std::string(size, 'c'));
-  Room& room = keep(Room{});
-  const int limit = static_cast<int>(sizeof room.text);
+  Places& places = keep(Places());
+  const char* const text = places.text(std::string(size, 'c'));
+  char* const room = places.room(room_size);
+  const int limit = static_cast<int>(room_size);
   row("compose", "Zeph_Copy_Stack", size_text(size), size)
-      .outputs([&room] { return std::string(room.text); })
-      .zeph(
-          [&text, &room, limit] { return Orbane::Zeph_Copy_Stack(room.text, text.c_str(), limit); })
-      .peer("snprintf %s", [&text, &room] {
-        return std::snprintf(room.text, sizeof room.text, "%s", text.c_str()) > 0;
-      });
+      .outputs([room] { return std::string(room); })
+      .zeph([text, room, limit] { return Orbane::Zeph_Copy_Stack(room, text, limit); })
+      .peer("snprintf %s", [text, room] { return std::snprintf(room, room_size, "%s", text) > 0; });
   char*& block = keep(static_cast<char*>(nullptr));
   char*& own = keep(static_cast<char*>(nullptr));
   row("compose", "Zeph_Copy_Mem, Zeph_Release_Mem", size_text(size), size)
       .reason("two calls into the shared object, and errno is kept over the request")
-      .zeph([&text, &block] {
-        const bool copied = Orbane::Zeph_Copy_Mem(&block, text.c_str());
+      .zeph([text, &block] {
+        const bool copied = Orbane::Zeph_Copy_Mem(&block, text);
         Orbane::Zeph_Release_Mem(&block);
         return copied;
       })
-      .peer("strlen, calloc, memcpy, free", [&text, &own] {
-        const std::size_t bytes = std::strlen(text.c_str());
+      .peer("strlen, calloc, memcpy, free", [text, &own] {
+        const std::size_t bytes = std::strlen(text);
         own = static_cast<char*>(std::calloc(bytes + 1, 1));
-        std::memcpy(own, text.c_str(), bytes);
+        std::memcpy(own, text, bytes);
         benchmark::DoNotOptimize(own);
         std::free(own);
         return true;

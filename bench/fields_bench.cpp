@@ -21,23 +21,24 @@ struct Cut {
   std::string text;
   char separator;
   int limit;
-  std::vector<std::vector<char>> rooms;
+  Places places;
+  const char* bytes;  // the text as a byte text
+  char* rooms[5];
+  char* copy;  // for strtok_r, which writes into its text
   std::string strings[5];
-  std::vector<char> copy;  // for strtok_r, which writes into its text
 
   Cut(std::string from, char between, int most)
-      : text(std::move(from)),
-        separator(between),
-        limit(most),
-        rooms(5, std::vector<char>(static_cast<std::size_t>(most) + 1)),
-        copy(text.size() + 1) {}
+      : text(std::move(from)), separator(between), limit(most), bytes(places.text(text)) {
+    for (char*& room : rooms) room = places.room(static_cast<std::size_t>(most) + 1);
+    copy = places.room(text.size() + 1);
+  }
 
   // The outputs in front of `count`, one a line; they are spoiled.
   std::string take_rooms(std::size_t count) {
     std::string all;
     for (std::size_t i = 0; i < count; ++i) {
-      all += std::string(rooms[i].data()) + '\n';
-      std::fill(rooms[i].begin(), rooms[i].end() - 1, '#');
+      all += std::string(rooms[i]) + '\n';
+      std::fill(rooms[i], rooms[i] + limit, '#');
     }
     return all;
   }
@@ -85,8 +86,8 @@ template <std::size_t count>
 template <std::size_t count>
 [[gnu::noinline]] int cut_by_strtok(Cut& c, char* const (&outs)[count], std::size_t limit) {
   const char separators[] = {c.separator, '\0'};
-  std::memcpy(c.copy.data(), c.text.c_str(), c.text.size() + 1);
-  char* rest = c.copy.data();
+  std::memcpy(c.copy, c.bytes, c.text.size() + 1);
+  char* rest = c.copy;
   for (std::size_t i = 0; i < count; ++i) {
     const char* const field = strtok_r(nullptr, i + 1 < count ? separators : "", &rest);
     const char* const from = field ? field : "";
@@ -142,13 +143,13 @@ template <std::size_t count>
 struct Outs {
   char* at[count];
   explicit Outs(Cut& c) {
-    for (std::size_t i = 0; i < count; ++i) at[i] = c.rooms[i].data();
+    for (std::size_t i = 0; i < count; ++i) at[i] = c.rooms[i];
   }
 };
 
 template <std::size_t count>
 void add_byte_rows(Cut& c, const std::string& input) {
-  const char* const text = c.text.c_str();
+  const char* const text = c.bytes;
   const auto limit = static_cast<std::size_t>(c.limit);
   const Outs<count> outs(c);
   const std::string number = std::to_string(count);

@@ -58,7 +58,7 @@ std::string list_of(std::size_t items) {
   return text;
 }
 
-[[gnu::noinline]] int index_by_strtok(const std::string& text, const char* value) {
+[[gnu::noinline]] int index_by_strtok(const char* text, const char* value) {
   std::string copy = text;
   char* rest = copy.data();
   int index = 0;
@@ -68,11 +68,12 @@ std::string list_of(std::size_t items) {
   return -1;
 }
 
-[[gnu::noinline]] int index_by_walk(const char* text, const std::string& value) {
+[[gnu::noinline]] int index_by_walk(const char* text, const char* value) {
+  const std::size_t value_size = std::strlen(value);
   for (int index = 0;; ++index) {
     const char* const end = strchrnul(text, ',');
     const auto size = static_cast<std::size_t>(end - text);
-    if (size == value.size() && std::memcmp(text, value.data(), size) == 0) return index;
+    if (size == value_size && std::memcmp(text, value, size) == 0) return index;
     if (*end == '\0') return -1;
     text = end + 1;
   }
@@ -96,19 +97,37 @@ std::string list_of(std::size_t items) {
   return 0;
 }
 
-void add_index_row(const std::string& text, const std::string& value, const std::string& input) {
-  row("lists", "Zeph_Seperate_Char_Get_Index", input, text.size())
+void add_index_row(const std::string& list, const std::string& sought, const std::string& input) {
+  Places& places = keep(Places());
+  const char* const text = places.text(list);
+  const char* const value = places.text(sought);
+  row("lists", "Zeph_Seperate_Char_Get_Index", input, list.size())
       .reason("it searches first, in vain where the value turns up inside of other items")
-      .zeph([&] { return Orbane::Zeph_Seperate_Char_Get_Index(text.c_str(), ',', value.c_str()); })
-      .peer("strsep loop", [&] { return index_by_strtok(text, value.c_str()); })
-      .peer("strchrnul walk", [&] { return index_by_walk(text.c_str(), value); })
-      .requests([&] { return heap_requests(2, text.size() + 1); });
+      .zeph([text, value] { return Orbane::Zeph_Seperate_Char_Get_Index(text, ',', value); })
+      .peer("strsep loop", [text, value] { return index_by_strtok(text, value); })
+      .peer("strchrnul walk", [text, value] { return index_by_walk(text, value); })
+      .requests([size = list.size() + 1] { return heap_requests(2, size); });
+}
+
+void add_word_row(const std::string& list, const std::string& last, int index,
+                  const std::string& input) {
+  Places& places = keep(Places());
+  const char* const text = places.text(list);
+  char* const word = places.room(last.size() + 1);
+  const auto limit = static_cast<int>(last.size());
+  row("lists", "Zeph_Seperate_Char_With_Index", input, list.size())
+      .outputs([word] { return std::string(word) + std::exchange(word[0], '#'); })
+      .zeph([text, word, index, limit] {
+        return Orbane::Zeph_Seperate_Char_With_Index(text, ',', word, index, limit), 0;
+      })
+      .peer("strchrnul walk", [text, word, index, limit] {
+        return word_by_walk(text, index, word, static_cast<std::size_t>(limit));
+      });
 }
 
 void add_list_rows(std::size_t items) {
   const std::string& text = keep(list_of(items));
   const List& list = keep(split_by_find(text));
-  const std::string& last = keep(std::string(list.back()));
   const std::string input = std::to_string(items) + " items";
   auto& split = row("lists", "Zeph_Split", input, text.size());
   auto& join = row("lists", "Zeph_Join", input, text.size());
@@ -140,36 +159,25 @@ void add_list_rows(std::size_t items) {
 #else
   split.missing_peer("Boost");
 #endif
-  const std::string& none = keep(std::string("item"));
-  add_index_row(text, last, input + ", last");
-  add_index_row(text, none, input + ", none");
-  std::string& word = keep(std::string(last.size() + 1, '#'));
-  const auto index = static_cast<int>(items) - 1, limit = static_cast<int>(last.size());
-  row("lists", "Zeph_Seperate_Char_With_Index", input + ", last", text.size())
-      .outputs([&] { return std::string(word.c_str()) + std::exchange(word[0], '#'); })
-      .zeph([&, index, limit] {
-        Orbane::Zeph_Seperate_Char_With_Index(text.c_str(), ',', word.data(), index, limit);
-        return 0;
-      })
-      .peer("strchrnul walk",
-            [&, index] { return word_by_walk(text.c_str(), index, word.data(), last.size()); });
+  add_index_row(text, list.back(), input + ", last");
+  add_index_row(text, "item", input + ", none");
+  add_word_row(text, list.back(), static_cast<int>(items) - 1, input + ", last");
 }
 
 void add_reverse_row(std::size_t size) {
-  const std::string& text = keep(std::string(size - 8, 'x') + " abc def");
-  std::string& copy = keep(std::string(text));
-  std::string& field = keep(std::string(size, '\0'));
-  std::string& head = keep(std::string(size, '\0'));
-  row("lists", "Zeph_Seperate_Reverse 2", std::to_string(size) + " bytes", size)
-      .outputs([&] {
-        const std::string answer = std::string(field.c_str()) + '\n' + head.c_str();
+  Places& places = keep(Places());
+  char* const text = places.text(std::string(size - 8, 'x') + " abc def");
+  char* const field = places.room(size);
+  char* const head = places.room(size);
+  row("lists", "Zeph_Seperate_Reverse 2", size_text(size), size)
+      .outputs([field, head] {
+        const std::string answer = std::string(field) + '\n' + head;
         field[0] = head[0] = '#';
         return answer;
       })
-      .zeph(
-          [&] { return Orbane::Zeph_Seperate_Reverse(copy.data(), field.data(), head.data()), 0; })
+      .zeph([text, field, head] { return Orbane::Zeph_Seperate_Reverse(text, field, head), 0; })
       .peer("strrchr + memcpy",
-            [&] { return cut_last_word(text.c_str(), field.data(), head.data()), 0; });
+            [text, field, head] { return cut_last_word(text, field, head), 0; });
 }
 
 }  // namespace

@@ -69,12 +69,12 @@ std::string prose(std::size_t size) {
 // ---- the rows ----
 
 void add_fold_rows(std::size_t size) {
-  Text& t = keep(Text{prose(size), std::string(size, '#')});
-  const char* const from = t.source.c_str();
-  char* const to = &t.room[0];
-  const auto read = [&t] {
-    const std::string answer = t.room;
-    std::fill(t.room.begin(), t.room.end(), '#');
+  Places& places = keep(Places());
+  const char* const from = places.text(prose(size));
+  char* const to = places.room(size + 1);
+  const auto read = [to, size] {
+    const std::string answer = to;
+    std::fill(to, to + size, '#');
     return answer;
   };
   row("normalise", "Zeph_Lower", size_text(size), size)
@@ -110,10 +110,11 @@ void add_fold_rows(std::size_t size) {
 
 // Each call trims a fresh copy: the copy is part of every figure.
 void add_trim_rows(const std::string& text, const std::string& input) {
-  Text& t = keep(Text{text, text});
-  char* const room = &t.room[0];
-  const auto fresh = [&t, room] {
-    std::memcpy(room, t.source.c_str(), t.source.size() + 1);
+  Places& places = keep(Places());
+  const char* const source = places.text(text);
+  char* const room = places.room(text.size() + 1);
+  const auto fresh = [source, room, bytes = text.size() + 1] {
+    std::memcpy(room, source, bytes);
     return room;
   };
   const auto read = [room] { return std::string(room); };

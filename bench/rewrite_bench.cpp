@@ -49,6 +49,21 @@ std::string replace_by_append(const std::string& text, std::string_view from, st
   return result.append(text, done, std::string::npos);
 }
 
+// The same between byte texts.
+[[gnu::noinline]] const char* replace_by_strstr(const char* text, const char* from, const char* to,
+                                                char* out) {
+  const std::size_t from_size = std::strlen(from), to_size = std::strlen(to);
+  char* end = out;
+  for (const char* at; (at = std::strstr(text, from)) != nullptr; text = at + from_size) {
+    const auto kept = static_cast<std::size_t>(at - text);
+    std::memcpy(end, text, kept);
+    std::memcpy(end + kept, to, to_size);
+    end += kept + to_size;
+  }
+  std::memcpy(end, text, std::strlen(text) + 1);
+  return out;
+}
+
 // A scan with a stack: the rule of removal in one pass, written for one pattern of two bytes.
 std::string remove_by_stack(const std::string& text, std::string_view pair) {
   std::string kept;
@@ -68,12 +83,16 @@ void add_replace_rows(std::size_t size) {
   std::string& work = keep(std::string());
   auto& replace =
       row("rewrite", "Zeph_Replace byte text, ab -> c", size_text(size) + " abab..", size);
+  Places& places = keep(Places());
+  const char* const from = places.text(pairs);
+  char* const to = places.room(size + 1);
   replace
-      .zeph([&] {
-        work = pairs;
-        Orbane::Zeph_Replace(work.data(), "ab", "c");
-        return std::string(work.c_str());
+      .zeph([from, to, size] {
+        std::memcpy(to, from, size + 1);
+        Orbane::Zeph_Replace(to, "ab", "c");
+        return static_cast<const char*>(to);
       })
+      .peer("strstr, memcpy", [from, to] { return replace_by_strstr(from, "ab", "c", to); })
       .peer("find + append", [&] { return replace_by_append(pairs, "ab", "c"); });
   auto& string = row("rewrite", "Zeph_Replace String, ab -> c", size_text(size) + " abab..", size);
   string
@@ -130,7 +149,7 @@ void add_replace_rows(std::size_t size) {
       });
 }
 
-std::string dump_by_digits(const std::string& bytes) {
+std::string dump_by_digits(std::string_view bytes) {
   std::string dump;
   dump.reserve(3 * bytes.size());
   for (const char byte : bytes) {
@@ -142,7 +161,7 @@ std::string dump_by_digits(const std::string& bytes) {
   return dump;
 }
 
-std::string dump_by_snprintf(const std::string& bytes) {
+std::string dump_by_snprintf(std::string_view bytes) {
   std::string dump(3 * bytes.size() + 1, '\0');
   char* out = dump.data();
   for (const char byte : bytes) out += std::snprintf(out, 4, "%02X ", byte & 0xFF);
@@ -151,48 +170,51 @@ std::string dump_by_snprintf(const std::string& bytes) {
 }
 
 void add_dump_row(std::size_t size) {
-  std::string& bytes = keep(std::string());
-  for (std::size_t i = 0; i < size; ++i) bytes.push_back(static_cast<char>(i * 37));
   struct Dump {
-    char* block = nullptr;
-    std::string own, room;
+    Places places;
+    std::string_view bytes;
+    char *room, *block = nullptr;
+    std::string own;
     const char* shown = "";
   };
   Dump& d = keep(Dump());
-  d.room.resize(3 * size + 1);
+  char* const source = d.places.room(size);
+  for (std::size_t i = 0; i < size; ++i) source[i] = static_cast<char>(i * 37);
+  d.bytes = {source, size};
+  d.room = d.places.room(3 * size + 1);
   auto& dump = row("rewrite", "Zeph_To_Ascii to a buffer", size_text(size), size);
   dump.outputs([&d] { return std::string(std::exchange(d.shown, "none")); })
-      .zeph([&d, &bytes] {
-        d.shown = Orbane::Zeph_To_Ascii(bytes.data(), static_cast<int>(bytes.size()), &d.block);
+      .zeph([&d] {
+        d.shown = Orbane::Zeph_To_Ascii(d.bytes.data(), static_cast<int>(d.bytes.size()), &d.block);
         return 0;
       })
       .peer("byte loop",
-            [&d, &bytes] {
-              d.own = dump_by_digits(bytes);
+            [&d] {
+              d.own = dump_by_digits(d.bytes);
               d.shown = d.own.c_str();
               return 0;
             })
-      .peer("snprintf", [&d, &bytes] {
-        d.own = dump_by_snprintf(bytes);
+      .peer("snprintf", [&d] {
+        d.own = dump_by_snprintf(d.bytes);
         d.shown = d.own.c_str();
         return 0;
       });
 #if ZEPH_BENCH_HAS_OPENSSL
-  dump.peer("OPENSSL_buf2hexstr_ex", [&d, &bytes] {
+  dump.peer("OPENSSL_buf2hexstr_ex", [&d] {
     std::size_t length = 0;
-    OPENSSL_buf2hexstr_ex(d.room.data(), d.room.size(), &length,
-                          reinterpret_cast<const unsigned char*>(bytes.data()),
-                          static_cast<long>(bytes.size()), ' ');
-    d.shown = d.room.c_str();
+    OPENSSL_buf2hexstr_ex(d.room, 3 * d.bytes.size() + 1, &length,
+                          reinterpret_cast<const unsigned char*>(d.bytes.data()),
+                          static_cast<long>(d.bytes.size()), ' ');
+    d.shown = d.room;
     return 0;
   });
 #else
   dump.missing_peer("OpenSSL");
 #endif
 #if ZEPH_BENCH_HAS_FMT
-  dump.peer("fmt::format", [&d, &bytes] {
-    const auto* const from = reinterpret_cast<const unsigned char*>(bytes.data());
-    d.own = fmt::format("{:02X}", fmt::join(from, from + bytes.size(), " "));
+  dump.peer("fmt::format", [&d] {
+    const auto* const from = reinterpret_cast<const unsigned char*>(d.bytes.data());
+    d.own = fmt::format("{:02X}", fmt::join(from, from + d.bytes.size(), " "));
     d.shown = d.own.c_str();
     return 0;
   });

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #if ZEPH_BENCH_HAS_BOOST
 #include <boost/algorithm/string/find.hpp>
@@ -16,6 +17,14 @@ namespace {
 
 struct Search {
   std::string text, pattern;
+  Places places;
+  const char *bytes, *sought;  // the two as byte texts
+
+  Search(std::string in, std::string what)
+      : text(std::move(in)),
+        pattern(std::move(what)),
+        bytes(places.text(text)),
+        sought(places.text(pattern)) {}
 };
 
 std::string prose(std::size_t size) {
@@ -43,20 +52,16 @@ void add_rows(Search search, const std::string& input) {
   Search& s = keep(std::move(search));
   row("search", "Zeph_Find_Position", input, s.text.size())
       .reason("the same service does it, behind a call into the shared object")
-      .zeph([&s] { return Orbane::Zeph_Find_Position(s.text.c_str(), s.pattern.c_str()); })
-      .peer("strstr",
-            [&s] { return place(s.text.c_str(), strstr(s.text.c_str(), s.pattern.c_str())); })
-      .peer("string_view::find", [&s] { return find_by_view(s.text.c_str(), s.pattern.c_str()); })
-      .peer("memmem", [&s] { return find_by_memmem(s.text.c_str(), s.pattern.c_str()); })
-      .limit("memchr",
-             [&s] { return std::memchr(s.text.data(), '\0', s.text.size() + 1) != nullptr; });
+      .zeph([&s] { return Orbane::Zeph_Find_Position(s.bytes, s.sought); })
+      .peer("strstr", [&s] { return place(s.bytes, strstr(s.bytes, s.sought)); })
+      .peer("string_view::find", [&s] { return find_by_view(s.bytes, s.sought); })
+      .peer("memmem", [&s] { return find_by_memmem(s.bytes, s.sought); })
+      .limit("memchr", [&s] { return std::memchr(s.bytes, '\0', s.text.size() + 1) != nullptr; });
   auto& folded = row("search", "Zeph_Find_Position_L", input, s.text.size());
   folded.reason("a call more into the shared library, and one that asks for the locale");
-  folded.zeph([&s] { return Orbane::Zeph_Find_Position_L(s.text.c_str(), s.pattern.c_str()); })
-      .peer("strcasestr",
-            [&s] { return place(s.text.c_str(), strcasestr(s.text.c_str(), s.pattern.c_str())); })
-      .limit("memchr",
-             [&s] { return std::memchr(s.text.data(), '\0', s.text.size() + 1) != nullptr; });
+  folded.zeph([&s] { return Orbane::Zeph_Find_Position_L(s.bytes, s.sought); })
+      .peer("strcasestr", [&s] { return place(s.bytes, strcasestr(s.bytes, s.sought)); })
+      .limit("memchr", [&s] { return std::memchr(s.bytes, '\0', s.text.size() + 1) != nullptr; });
 #if ZEPH_BENCH_HAS_BOOST
   // Its locale test for each byte takes minutes of rounds for longer texts, and tells no more.
   if (s.text.size() > 4096) return;
@@ -82,11 +87,9 @@ void add_range_row(Search search, const std::string& input) {
   Search& s = keep(std::move(search));
   const auto end = static_cast<int>(s.text.size()) - 1;
   row("search", "Zeph_Find_Position, a range", input, s.text.size())
-      .zeph([&s, end] {
-        return Orbane::Zeph_Find_Position(s.text.c_str(), 1, end, s.pattern.c_str());
-      })
+      .zeph([&s, end] { return Orbane::Zeph_Find_Position(s.bytes, 1, end, s.sought); })
       .peer("strnlen, memmem", [&s, end] {
-        return find_in_slice(s.text.c_str(), 1, static_cast<std::size_t>(end), s.pattern.c_str());
+        return find_in_slice(s.bytes, 1, static_cast<std::size_t>(end), s.sought);
       });
 }
 

@@ -12,9 +12,11 @@ namespace zeph_bench {
 namespace {
 
 struct Marked {
-  std::string text, out, room;
-  char* bytes;
-  int size;  // of the room
+  std::string text, out;
+  Places places;
+  const char* from;  // the text as a byte text
+  char* bytes;       // a room of its size
+  int size;
 };
 
 // ---- the peers ----
@@ -77,21 +79,18 @@ void add_byte_rows(Marked& m, const std::string& input) {
   const int third = static_cast<int>(m.text.size() / 3);
   row("slices", "Zeph_Get_SubString", input, m.text.size())
       .outputs([&m] { return std::string(m.bytes); })
-      .zeph(
-          [&m, third] { return Orbane::Zeph_Get_SubString(m.text.c_str(), third, third, m.bytes); })
+      .zeph([&m, third] { return Orbane::Zeph_Get_SubString(m.from, third, third, m.bytes); })
       .peer("strlen, memcpy", [&m, third] {
         const auto size = static_cast<std::size_t>(third);
-        return slice(m.text.c_str(), size, size, m.bytes);
+        return slice(m.from, size, size, m.bytes);
       });
   row("slices", "Zeph_Ext_Name_From_FullPath", input, m.text.size())
       .outputs([&m] { return std::string(m.bytes); })
-      .zeph(
-          [&m] { return Orbane::Zeph_Ext_Name_From_FullPath(m.bytes, m.text.c_str(), m.size), 0; })
+      .zeph([&m] { return Orbane::Zeph_Ext_Name_From_FullPath(m.bytes, m.from, m.size), 0; })
       .peer("two of strrchr, memcpy",
-            [&m] { return name_of(m.bytes, m.text.c_str(), static_cast<std::size_t>(m.size)); })
-      .peer("find_last_of, copy", [&m] {
-        return name_of_view(m.bytes, m.text.c_str(), static_cast<std::size_t>(m.size));
-      });
+            [&m] { return name_of(m.bytes, m.from, static_cast<std::size_t>(m.size)); })
+      .peer("find_last_of, copy",
+            [&m] { return name_of_view(m.bytes, m.from, static_cast<std::size_t>(m.size)); });
 }
 
 void add_string_rows(Marked& m, const std::string& input) {
@@ -116,17 +115,16 @@ void add_string_rows(Marked& m, const std::string& input) {
 }
 
 void add_mark_row(const char* text) {
-  struct Line {
-    std::string source;
-    char bytes[64];
+  const std::size_t size = std::strlen(text);
+  Places& places = keep(Places());
+  const char* const source = places.text(text);
+  char* const bytes = places.room(size + 1);
+  const auto fresh = [source, bytes, size] {
+    std::memcpy(bytes, source, size + 1);
+    return bytes;
   };
-  Line& line = keep(Line{text, ""});
-  const auto fresh = [&line] {
-    std::memcpy(line.bytes, line.source.c_str(), line.source.size() + 1);
-    return line.bytes;
-  };
-  row("slices", "copy, Zeph_Remove_QuoteMark", std::to_string(line.source.size()) + " bytes", 0)
-      .outputs([&line] { return std::string(line.bytes); })
+  row("slices", "copy, Zeph_Remove_QuoteMark", size_text(size), size)
+      .outputs([bytes] { return std::string(bytes); })
       .zeph([fresh] { return Orbane::Zeph_Remove_QuoteMark(fresh()), 0; })
       .peer("tests, strlen, memmove", [fresh] { return without_marks(fresh()); });
 }
@@ -138,8 +136,9 @@ void register_slices_rows() {
     // The marks stand near the front, so that what looks from the end has a way to go.
     std::string text = "a[b]=>c/";
     text.resize(size, 'x');
-    Marked& m = keep(Marked{text, "", std::string(size, '#'), nullptr, static_cast<int>(size)});
-    m.bytes = m.room.data();
+    Marked& m = keep(Marked{text, "", {}, nullptr, nullptr, static_cast<int>(size)});
+    m.from = m.places.text(text);
+    m.bytes = m.places.room(size + 1);
     add_byte_rows(m, size_text(size));
     add_string_rows(m, size_text(size));
   }
