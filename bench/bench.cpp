@@ -87,7 +87,7 @@ bool print_row(const Row& row, bool all_peers) {
   for (const auto& [ratio, peer] : peers) {
     const double time = median(zeph->rounds);
     const std::string name = peer->who + (requests ? " + requests" : "");
-    std::printf("%-10s %-28s %-24s %9.2f %7.2f   %-30s %9.2f %6.2f%s\n", row.family().c_str(),
+    std::printf("%-10s %-36s %-32s %9.2f %7.2f   %-36s %9.2f %6.2f%s\n", row.family().c_str(),
                 row.operation().c_str(), row.input().c_str(), time,
                 static_cast<double>(row.bytes()) / time, name.c_str(), median(peer->rounds), ratio,
                 ratio < slow ? "  < 0.8" : "");
@@ -96,7 +96,7 @@ bool print_row(const Row& row, bool all_peers) {
 }
 
 void print_table(bool all_peers) {
-  std::printf("%-10s %-28s %-24s %9s %7s   %-30s %9s %6s\n", "family", "operation", "input",
+  std::printf("%-10s %-36s %-32s %9s %7s   %-36s %9s %6s\n", "family", "operation", "input",
               "Zeph ns", "GB/s", all_peers ? "peer" : "best peer", "ns", "ratio");
   std::size_t below = 0;
   for (const auto& row : session().rows) {
@@ -249,6 +249,12 @@ char* Places::text(std::string_view text, std::size_t room_size) {
   char* const to = room(std::max(text.size() + 1, room_size));
   text.copy(to, text.size());
   return to;
+}
+
+std::string take(char* room) {
+  std::string text = room;
+  room[0] = '#';
+  return text;
 }
 
 std::string size_text(std::size_t size) {

@@ -165,6 +165,9 @@ class Row {
 // Asks the heap for so many zero-filled blocks, as work buffers are, and gives them back.
 int heap_requests(std::size_t count, std::size_t size);
 
+// The text in a room, which is spoiled.
+std::string take(char* room);
+
 // "64 bytes", "4 KiB", "1 MiB".
 std::string size_text(std::size_t size);
 

@@ -88,40 +88,11 @@ void add_print_row(std::size_t size) {
 #endif
 }
 
-void add_copy_rows(std::size_t size) {
-  Places& places = keep(Places());
-  const char* const text = places.text(std::string(size, 'c'));
-  char* const room = places.room(room_size);
-  const int limit = static_cast<int>(room_size);
-  row("compose", "Zeph_Copy_Stack", size_text(size), size)
-      .outputs([room] { return std::string(room); })
-      .zeph([text, room, limit] { return Orbane::Zeph_Copy_Stack(room, text, limit); })
-      .peer("snprintf %s", [text, room] { return std::snprintf(room, room_size, "%s", text) > 0; });
-  char*& block = keep(static_cast<char*>(nullptr));
-  char*& own = keep(static_cast<char*>(nullptr));
-  row("compose", "Zeph_Copy_Mem, Zeph_Release_Mem", size_text(size), size)
-      .reason("two calls into the shared object, and errno is kept over the request")
-      .zeph([text, &block] {
-        const bool copied = Orbane::Zeph_Copy_Mem(&block, text);
-        Orbane::Zeph_Release_Mem(&block);
-        return copied;
-      })
-      .peer("strlen, calloc, memcpy, free", [text, &own] {
-        const std::size_t bytes = std::strlen(text);
-        own = static_cast<char*>(std::calloc(bytes + 1, 1));
-        std::memcpy(own, text, bytes);
-        benchmark::DoNotOptimize(own);
-        std::free(own);
-        return true;
-      });
-}
-
 }  // namespace
 
 void register_compose_rows() {
   for (const std::size_t size : {8U, 64U}) add_append_rows(size);
   for (const std::size_t size : {32U, 1024U}) add_print_row(size);
-  for (const std::size_t size : {32U, 1024U}) add_copy_rows(size);
 }
 
 }  // namespace zeph_bench

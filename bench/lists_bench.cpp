@@ -1,9 +1,6 @@
-// Lists, fields by index and fields from the right against what a user would write instead.
-#include <algorithm>
-#include <cstring>
+// Lists against what a user would write instead.
 #include <sstream>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -58,71 +55,12 @@ std::string list_of(std::size_t items) {
   return text;
 }
 
-[[gnu::noinline]] int index_by_strtok(const char* text, const char* value) {
-  std::string copy = text;
-  char* rest = copy.data();
-  int index = 0;
-  for (char* item; (item = strsep(&rest, ",")) != nullptr; ++index) {
-    if (std::strcmp(item, value) == 0) return index;
+[[gnu::noinline]] void join_to(std::string& text, const List& list) {
+  text.clear();
+  for (const std::string& item : list) {
+    if (!text.empty()) text += ',';
+    text += item;
   }
-  return -1;
-}
-
-[[gnu::noinline]] int index_by_walk(const char* text, const char* value) {
-  const std::size_t value_size = std::strlen(value);
-  for (int index = 0;; ++index) {
-    const char* const end = strchrnul(text, ',');
-    const auto size = static_cast<std::size_t>(end - text);
-    if (size == value_size && std::memcmp(text, value, size) == 0) return index;
-    if (*end == '\0') return -1;
-    text = end + 1;
-  }
-}
-
-[[gnu::noinline]] void cut_last_word(const char* text, char* field, char* head) {
-  const char* const at = std::strrchr(text, ' ');
-  const auto size = static_cast<std::size_t>(at - text);
-  std::strcpy(field, at + 1);
-  std::memcpy(head, text, size);
-  head[size] = '\0';
-}
-
-[[gnu::noinline]] int word_by_walk(const char* text, int index, char* out, std::size_t limit) {
-  for (const char* end; *(end = strchrnul(text, ',')) != '\0' && index > 0; --index) {
-    text = end + 1 + std::strspn(end + 1, ",");
-  }
-  const std::size_t size = std::min<std::size_t>(strcspn(text, ","), limit);
-  std::memcpy(out, text, size);
-  out[size] = '\0';
-  return 0;
-}
-
-void add_index_row(const std::string& list, const std::string& sought, const std::string& input) {
-  Places& places = keep(Places());
-  const char* const text = places.text(list);
-  const char* const value = places.text(sought);
-  row("lists", "Zeph_Seperate_Char_Get_Index", input, list.size())
-      .reason("it searches first, in vain where the value turns up inside of other items")
-      .zeph([text, value] { return Orbane::Zeph_Seperate_Char_Get_Index(text, ',', value); })
-      .peer("strsep loop", [text, value] { return index_by_strtok(text, value); })
-      .peer("strchrnul walk", [text, value] { return index_by_walk(text, value); })
-      .requests([size = list.size() + 1] { return heap_requests(2, size); });
-}
-
-void add_word_row(const std::string& list, const std::string& last, int index,
-                  const std::string& input) {
-  Places& places = keep(Places());
-  const char* const text = places.text(list);
-  char* const word = places.room(last.size() + 1);
-  const auto limit = static_cast<int>(last.size());
-  row("lists", "Zeph_Seperate_Char_With_Index", input, list.size())
-      .outputs([word] { return std::string(word) + std::exchange(word[0], '#'); })
-      .zeph([text, word, index, limit] {
-        return Orbane::Zeph_Seperate_Char_With_Index(text, ',', word, index, limit), 0;
-      })
-      .peer("strchrnul walk", [text, word, index, limit] {
-        return word_by_walk(text, index, word, static_cast<std::size_t>(limit));
-      });
 }
 
 void add_list_rows(std::size_t items) {
@@ -159,32 +97,17 @@ void add_list_rows(std::size_t items) {
 #else
   split.missing_peer("Boost");
 #endif
-  add_index_row(text, list.back(), input + ", last");
-  add_index_row(text, "item", input + ", none");
-  add_word_row(text, list.back(), static_cast<int>(items) - 1, input + ", last");
-}
-
-void add_reverse_row(std::size_t size) {
-  Places& places = keep(Places());
-  char* const text = places.text(std::string(size - 8, 'x') + " abc def");
-  char* const field = places.room(size);
-  char* const head = places.room(size);
-  row("lists", "Zeph_Seperate_Reverse 2", size_text(size), size)
-      .outputs([field, head] {
-        const std::string answer = std::string(field) + '\n' + head;
-        field[0] = head[0] = '#';
-        return answer;
-      })
-      .zeph([text, field, head] { return Orbane::Zeph_Seperate_Reverse(text, field, head), 0; })
-      .peer("strrchr + memcpy",
-            [text, field, head] { return cut_last_word(text, field, head), 0; });
+  std::string& out = keep(std::string());
+  row("lists", "Zeph_Join to a String", input, text.size())
+      .outputs([&] { return std::exchange(out, ""); })
+      .zeph([&] { return Orbane::Zeph_Join(list, ',', out), 0; })
+      .peer("append loop", [&] { return join_to(out, list), 0; });
 }
 
 }  // namespace
 
 void register_lists_rows() {
   for (const std::size_t items : {10U, 100U, 10000U}) add_list_rows(items);
-  for (const std::size_t size : {16U, 64U, 4096U, 65536U}) add_reverse_row(size);
 }
 
 }  // namespace zeph_bench

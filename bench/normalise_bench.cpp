@@ -1,4 +1,4 @@
-// Case and blanks against the loops that a user writes.
+// Letters folded to one case against the loops that a user writes.
 #include <algorithm>
 #include <cctype>
 #include <cstring>
@@ -9,18 +9,14 @@
 #endif
 #if ZEPH_BENCH_HAS_BOOST
 #include <boost/algorithm/string/case_conv.hpp>
-#include <boost/algorithm/string/trim.hpp>
 #endif
 
 #include "bench.h"
+#include "in_place.h"
 #include "zeph.h"
 
 namespace zeph_bench {
 namespace {
-
-struct Text {
-  std::string source, room;
-};
 
 std::string prose(std::size_t size) {
   std::string text;
@@ -31,124 +27,178 @@ std::string prose(std::size_t size) {
 
 // ---- the peers ----
 
-[[gnu::noinline]] int lower_by_tolower(const char* from, char* to) {
+// The two folds: the letters that change, and how.
+struct ToLower {
+  static constexpr char first = 'A', last = 'Z';
+  static int by_locale(int byte) {
+    return std::tolower(byte);
+  }
+#if ZEPH_BENCH_HAS_ABSEIL
+  static void by_abseil(std::string& text) {
+    absl::AsciiStrToLower(&text);
+  }
+#endif
+#if ZEPH_BENCH_HAS_BOOST
+  static void by_boost(std::string& text) {
+    boost::to_lower(text);
+  }
+#endif
+};
+struct ToUpper {
+  static constexpr char first = 'a', last = 'z';
+  static int by_locale(int byte) {
+    return std::toupper(byte);
+  }
+#if ZEPH_BENCH_HAS_ABSEIL
+  static void by_abseil(std::string& text) {
+    absl::AsciiStrToUpper(&text);
+  }
+#endif
+#if ZEPH_BENCH_HAS_BOOST
+  static void by_boost(std::string& text) {
+    boost::to_upper(text);
+  }
+#endif
+};
+
+template <typename Fold>
+[[gnu::noinline]] int fold_by_locale(const char* from, char* to) {
   for (; *from != '\0'; ++from, ++to) {
-    *to = static_cast<char>(std::tolower(static_cast<unsigned char>(*from)));
+    *to = static_cast<char>(Fold::by_locale(static_cast<unsigned char>(*from)));
   }
   *to = '\0';
   return 0;
 }
 
 // Written so that the compiler makes wide instructions of it.
-[[gnu::noinline]] int lower_by_wide_loop(const char* from, char* to) {
-  const std::size_t size = std::strlen(from);
+template <typename Fold>
+void fold_bytes(const char* from, char* to, std::size_t size) {
   for (std::size_t i = 0; i < size; ++i) {
     const char byte = from[i];
-    to[i] = static_cast<char>(byte >= 'A' && byte <= 'Z' ? byte + 32 : byte);
+    to[i] = static_cast<char>(byte >= Fold::first && byte <= Fold::last ? byte ^ 32 : byte);
   }
+}
+
+template <typename Fold>
+[[gnu::noinline]] int fold_by_wide_loop(const char* from, char* to) {
+  const std::size_t size = std::strlen(from);
+  fold_bytes<Fold>(from, to, size);
   to[size] = '\0';
   return 0;
 }
 
-[[gnu::noinline]] int trim_by_loop(char* text) {
-  const char* from = text;
-  while (*from == ' ') ++from;
-  std::size_t size = std::strlen(from);
-  while (size > 0 && from[size - 1] == ' ') --size;
-  std::memmove(text, from, size);
-  text[size] = '\0';
+template <typename Fold>
+[[gnu::noinline]] void fold_in_place(char* text) {
+  fold_bytes<Fold>(text, text, std::strlen(text));
+}
+
+template <typename Fold>
+[[gnu::noinline]] int fold_string(const std::string& from, std::string& to) {
+  to.resize(from.size());
+  fold_bytes<Fold>(from.data(), to.data(), from.size());
   return 0;
 }
 
-[[gnu::noinline]] int trim_by_find(std::string& text) {
-  text.erase(text.find_last_not_of(' ') + 1);
-  text.erase(0, text.find_first_not_of(' '));
+template <typename Fold>
+[[gnu::noinline]] int transform_string(const std::string& from, std::string& to) {
+  to.resize(from.size());
+  std::transform(from.begin(), from.end(), to.begin(),
+                 [](unsigned char byte) { return static_cast<char>(Fold::by_locale(byte)); });
   return 0;
 }
 
 // ---- the rows ----
 
-void add_fold_rows(std::size_t size) {
+const char* const locale_reason =
+    "it asks for the process's locale, which the loop takes for \"C\"";
+
+template <typename Fold, typename Zeph>
+void add_byte_row(const char* operation, std::size_t size, Zeph zeph) {
   Places& places = keep(Places());
   const char* const from = places.text(prose(size));
   char* const to = places.room(size + 1);
-  const auto read = [to, size] {
-    const std::string answer = to;
-    std::fill(to, to + size, '#');
-    return answer;
-  };
-  row("normalise", "Zeph_Lower", size_text(size), size)
-      .outputs(read)
-      .zeph([from, to] { return Orbane::Zeph_Lower(from, to), 0; })
-      .peer("ASCII loop", [from, to] { return lower_by_wide_loop(from, to); })
-      .peer("tolower loop", [from, to] { return lower_by_tolower(from, to); })
+  row("normalise", operation, size_text(size), size)
+      .outputs([to, size] {
+        const std::string answer = to;
+        std::fill(to, to + size, '#');
+        return answer;
+      })
+      .zeph([from, to, zeph] { return zeph(from, to), 0; })
+      .peer("ASCII loop", [from, to] { return fold_by_wide_loop<Fold>(from, to); })
+      .peer("locale's loop", [from, to] { return fold_by_locale<Fold>(from, to); })
       .limit("memcpy", [from, to, size] { return std::memcpy(to, from, size) != nullptr; })
-      .reason("it asks for the process's locale, which the loop takes for \"C\"");
-  Text& s = keep(Text{prose(size), std::string(size, '#')});
-  auto& strings = row("normalise", "copy, Zeph_Upper String", size_text(size), size);
-  strings.outputs([&s] { return s.room; })
-      .zeph([&s] { return s.room.assign(s.source), Orbane::Zeph_Upper(s.room), 0; })
-      .peer("toupper loop", [&s] {
-        s.room.assign(s.source);
-        for (char& byte : s.room)
-          byte = static_cast<char>(std::toupper(static_cast<unsigned char>(byte)));
-        return 0;
-      });
-#if ZEPH_BENCH_HAS_ABSEIL
-  strings.peer("absl::AsciiStrToUpper",
-               [&s] { return s.room.assign(s.source), absl::AsciiStrToUpper(&s.room), 0; });
-#else
-  strings.missing_peer("abseil");
-#endif
-#if ZEPH_BENCH_HAS_BOOST
-  strings.peer("boost::to_upper",
-               [&s] { return s.room.assign(s.source), boost::to_upper(s.room), 0; });
-#else
-  strings.missing_peer("Boost");
-#endif
+      .reason(locale_reason);
 }
 
-// Each call trims a fresh copy: the copy is part of every figure.
-void add_trim_rows(const std::string& text, const std::string& input) {
-  Places& places = keep(Places());
-  const char* const source = places.text(text);
-  char* const room = places.room(text.size() + 1);
-  const auto fresh = [source, room, bytes = text.size() + 1] {
-    std::memcpy(room, source, bytes);
-    return room;
-  };
-  const auto read = [room] { return std::string(room); };
-  row("normalise", "copy, Zeph_Trimed", input, text.size())
-      .outputs(read)
-      .zeph([fresh] { return Orbane::Zeph_Trimed(fresh()), 0; })
-      .peer("loops and memmove", [fresh] { return trim_by_loop(fresh()); });
-  Text& s = keep(Text{text, text});
-  auto& strings = row("normalise", "copy, Zeph_Trimed String", input, text.size());
-  strings.outputs([&s] { return s.room; })
-      .zeph([&s] { return s.room.assign(s.source), Orbane::Zeph_Trimed(s.room), 0; })
-      .peer("find_..._not_of, erase",
-            [&s] { return s.room.assign(s.source), trim_by_find(s.room); });
+template <typename Fold, typename Zeph>
+void add_in_place_row(const char* operation, std::size_t size, Zeph zeph) {
+  const ByteCopy copy = byte_copy(prose(size));
+  row("normalise", operation, size_text(size), size)
+      .outputs(changed(copy))
+      .zeph(on_a_copy(copy, zeph))
+      .peer("ASCII loop", on_a_copy(copy, fold_in_place<Fold>))
+      .reason(locale_reason);
+}
+
+template <typename Fold, typename Zeph>
+void add_string_row(const char* operation, std::size_t size, Zeph zeph) {
+  StringCopy& s = string_copy(prose(size));
+  row("normalise", operation, size_text(size), size)
+      .outputs(changed(s))
+      .zeph([&s, zeph] { return zeph(s.source, s.room), 0; })
+      .peer("resize, ASCII loop", [&s] { return fold_string<Fold>(s.source, s.room); })
+      .peer("std::transform", [&s] { return transform_string<Fold>(s.source, s.room); })
+      .reason(locale_reason);
+}
+
+template <typename Fold, typename Zeph>
+void add_string_in_place_row(const char* operation, std::size_t size, Zeph zeph) {
+  StringCopy& s = string_copy(prose(size));
+  auto& added = row("normalise", operation, size_text(size), size);
+  added.outputs(changed(s)).zeph(on_a_copy(s, zeph)).reason(locale_reason);
+  added.peer("locale's loop", on_a_copy(s, [](std::string& text) {
+               for (char& byte : text) {
+                 byte = static_cast<char>(Fold::by_locale(static_cast<unsigned char>(byte)));
+               }
+             }));
 #if ZEPH_BENCH_HAS_ABSEIL
-  strings.peer("absl::StripAsciiWhitespace",
-               [&s] { return s.room.assign(s.source), absl::StripAsciiWhitespace(&s.room), 0; });
+  added.peer("absl::AsciiStrTo...", on_a_copy(s, Fold::by_abseil));
+#else
+  added.missing_peer("abseil");
 #endif
 #if ZEPH_BENCH_HAS_BOOST
-  strings.peer("boost::trim_if", [&s] {
-    return s.room.assign(s.source), boost::trim_if(s.room, [](char byte) { return byte == ' '; }),
-           0;
-  });
+  added.peer("boost::to_...", on_a_copy(s, Fold::by_boost));
+#else
+  added.missing_peer("Boost");
 #endif
 }
 
 }  // namespace
 
 void register_normalise_rows() {
-  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) add_fold_rows(size);
-  const std::string blanks(524288, ' ');
-  add_trim_rows("Chamber Pressure", "16 bytes, no blanks");
-  add_trim_rows("   Chamber Pressure 0.75 mTorr    ", "34 bytes, 3 and 4 blanks");
-  add_trim_rows(blanks + "x" + blanks, "1 MiB of blanks, x inside");
-  add_trim_rows(blanks + blanks, "1 MiB of blanks");
+  using namespace Orbane;
+  using String = std::string;
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
+    add_byte_row<ToLower>("Zeph_Lower", size,
+                          [](const char* from, char* to) { Zeph_Lower(from, to); });
+    add_string_in_place_row<ToUpper>("copy, Zeph_Upper String", size,
+                                     [](String& text) { Zeph_Upper(text); });
+  }
+  for (const std::size_t size : {8U, 32U, 64U, 4096U}) {
+    add_byte_row<ToUpper>("Zeph_Upper", size,
+                          [](const char* from, char* to) { Zeph_Upper(from, to); });
+    add_in_place_row<ToLower>("copy, Zeph_Lower in place", size,
+                              [](char* text) { Zeph_Lower(text); });
+  }
+  add_in_place_row<ToUpper>("copy, Zeph_Upper in place", 64, [](char* text) { Zeph_Upper(text); });
+  add_string_in_place_row<ToLower>("copy, Zeph_Lower String", 64,
+                                   [](String& text) { Zeph_Lower(text); });
+  for (const std::size_t size : {64U, 4096U}) {
+    add_string_row<ToLower>("Zeph_Lower String to String", size,
+                            [](const String& from, String& to) { Zeph_Lower(from, to); });
+    add_string_row<ToUpper>("Zeph_Upper String to String", size,
+                            [](const String& from, String& to) { Zeph_Upper(from, to); });
+  }
 }
 
 }  // namespace zeph_bench

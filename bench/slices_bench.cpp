@@ -65,14 +65,6 @@ template <typename Marker>
   return true;
 }
 
-[[gnu::noinline]] int without_marks(char* bytes) {
-  std::size_t size = std::strlen(bytes);
-  const auto is_mark = [](char byte) { return byte == '"' || byte == '\''; };
-  if (size > 0 && is_mark(bytes[0])) std::memmove(bytes, bytes + 1, size--);
-  if (size > 0 && is_mark(bytes[size - 1])) bytes[size - 1] = '\0';
-  return 0;
-}
-
 // ---- the rows ----
 
 void add_byte_rows(Marked& m, const std::string& input) {
@@ -114,21 +106,6 @@ void add_string_rows(Marked& m, const std::string& input) {
       .peer("find, assign", [&m] { return between(m.text, '[', ']', m.out); });
 }
 
-void add_mark_row(const char* text) {
-  const std::size_t size = std::strlen(text);
-  Places& places = keep(Places());
-  const char* const source = places.text(text);
-  char* const bytes = places.room(size + 1);
-  const auto fresh = [source, bytes, size] {
-    std::memcpy(bytes, source, size + 1);
-    return bytes;
-  };
-  row("slices", "copy, Zeph_Remove_QuoteMark", size_text(size), size)
-      .outputs([bytes] { return std::string(bytes); })
-      .zeph([fresh] { return Orbane::Zeph_Remove_QuoteMark(fresh()), 0; })
-      .peer("tests, strlen, memmove", [fresh] { return without_marks(fresh()); });
-}
-
 }  // namespace
 
 void register_slices_rows() {
@@ -142,8 +119,6 @@ void register_slices_rows() {
     add_byte_rows(m, size_text(size));
     add_string_rows(m, size_text(size));
   }
-  add_mark_row("\"Chamber Pressure\"");
-  add_mark_row("Chamber Pressure 0.75 mTorr");
 }
 
 }  // namespace zeph_bench
