@@ -8,6 +8,8 @@
 #include "zeph.h"
 
 #if ZEPH_BENCH_HAS_OPENSSL
+#define OPENSSL_SUPPRESS_DEPRECATED  // the key schedule alone has no other name
+#include <openssl/aes.h>
 #include <openssl/evp.h>
 #endif
 
@@ -44,6 +46,9 @@ class OpensslCipher {
   OpensslCipher(const unsigned char* key, bool encrypts) : context_(EVP_CIPHER_CTX_new()) {
     EVP_CipherInit_ex(context_.get(), EVP_aes_256_ecb(), nullptr, key, nullptr, encrypts ? 1 : 0);
     EVP_CIPHER_CTX_set_padding(context_.get(), 0);
+  }
+  bool set_key(const unsigned char* key) {
+    return EVP_CipherInit_ex(context_.get(), nullptr, nullptr, key, nullptr, -1) == 1;
   }
   unsigned long run(const void* in, unsigned char* out, std::size_t size) {
     int written = 0;
@@ -92,12 +97,67 @@ void add_rows(Sealing& s, const std::string& input, const unsigned char* key) {
   add_peer(open, s, key, false);
 }
 
+// Which of them was given the key last: its block is the answer.
+enum class Holder { zeph, evp, schedule };
+
+struct Keys {
+  unsigned char key[32];
+  Sealing block{16};
+  Holder last = Holder::zeph;
+};
+
+#if ZEPH_BENCH_HAS_OPENSSL
+struct Peers {
+  OpensslCipher evp;
+  AES_KEY schedule;
+};
+
+void seal_block(Keys& k, Peers& peers) {
+  const auto* const text = reinterpret_cast<const unsigned char*>(k.block.text);
+  if (k.last == Holder::zeph) Orbane::Zeph_Encrypt(k.block.text, k.block.record);
+  if (k.last == Holder::evp) peers.evp.run(text, k.block.blocks(), k.block.size);
+  if (k.last == Holder::schedule) AES_encrypt(text, k.block.blocks(), &peers.schedule);
+}
+#endif
+
+// The key in force is the same before and behind, as all other rows seal under it.
+void add_key_row(const unsigned char* key) {
+  Keys& k = keep(Keys{});
+  std::copy(key, key + sizeof k.key, k.key);
+  Row& reset = row("cipher", "Zeph_Encrypt_Reset_Key", "32 bytes", sizeof k.key);
+  const auto by_zeph = [&k] {
+    k.last = Holder::zeph;
+    return Orbane::Zeph_Encrypt_Reset_Key(sizeof k.key, k.key), true;
+  };
+#if ZEPH_BENCH_HAS_OPENSSL
+  Peers& peers = keep(Peers{OpensslCipher(key, true), AES_KEY{}});
+  reset
+      .outputs([&k, &peers] {
+        seal_block(k, peers);
+        return take(k.block.record + 16, k.block.size);
+      })
+      .zeph(by_zeph)
+      .peer("EVP_CipherInit_ex",
+            [&k, &peers] {
+              k.last = Holder::evp;
+              return peers.evp.set_key(k.key);
+            })
+      .peer("AES_set_encrypt_key", [&k, &peers] {
+        k.last = Holder::schedule;
+        return AES_set_encrypt_key(k.key, 256, &peers.schedule) == 0;
+      });
+#else
+  reset.zeph(by_zeph).missing_peer("OpenSSL");
+#endif
+}
+
 }  // namespace
 
 void register_cipher_rows() {
   unsigned char key[32] = {7, 0, 77};
   Orbane::Zeph_Encrypt_Reset_Key(sizeof key, key);
-  for (const std::size_t size : {16U, 64U, 1024U, 65536U, 1048576U}) {
+  add_key_row(key);
+  for (const std::size_t size : {16U, 32U, 64U, 1024U, 4096U, 65536U, 1048576U}) {
     add_rows(keep(Sealing(size)), size_text(size), key);
   }
 }

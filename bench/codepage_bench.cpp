@@ -54,24 +54,35 @@ std::string by_icu(Conversion& c) {
 }
 #endif
 
-void add_rows(Conversion made, std::string (*convert)(const char*), const std::string& input) {
-  Conversion& c = keep(std::move(made));
-  Row& timed = row("codepage", c.operation, input, c.size);
-  timed.zeph([&c, convert] { return convert(c.text); });
+void add_peers(Row& timed, Conversion& c) {
 #if ZEPH_BENCH_HAS_ICONV
-  c.iconv = iconv_open(c.to, c.from);
+  if (c.iconv == iconv_t()) c.iconv = iconv_open(c.to, c.from);
   timed.peer("iconv", [&c] { return by_iconv(c); });
 #else
   timed.missing_peer("iconv");
 #endif
 #if ZEPH_BENCH_HAS_ICU
   UErrorCode status = U_ZERO_ERROR;
-  c.icu_from = ucnv_open(c.from, &status);
-  c.icu_to = ucnv_open(c.to, &status);
+  if (!c.icu_from) c.icu_from = ucnv_open(c.from, &status);
+  if (!c.icu_to) c.icu_to = ucnv_open(c.to, &status);
   timed.peer("ICU ucnv_convertEx", [&c] { return by_icu(c); });
 #else
   timed.missing_peer("ICU");
 #endif
+}
+
+using FromBytes = std::string (*)(const char*);
+using FromString = std::string (*)(std::string&);
+
+void add_rows(Conversion made, FromBytes convert, FromString convert_string,
+              const std::string& input) {
+  Conversion& c = keep(std::move(made));
+  Row& bytes = row("codepage", c.operation, input, c.size);
+  add_peers(bytes.zeph([&c, convert] { return convert(c.text); }), c);
+  if (c.room > 512) return;  // the String forms differ by the way to their text alone
+  std::string& string = keep(std::string(c.text));
+  Row& strings = row("codepage", std::string(c.operation) + " String", input, c.size);
+  add_peers(strings.zeph([&string, convert_string] { return convert_string(string); }), c);
 }
 
 // Code page 936 texts. Common Chinese characters, in no order that a branch could learn.
@@ -94,7 +105,7 @@ std::string repeated(const std::string& part, std::size_t size) {
 }  // namespace
 
 void register_codepage_rows() {
-  for (const std::size_t size : {64U, 4096U, 65536U, 1048576U}) {
+  for (const std::size_t size : {32U, 64U, 4096U, 65536U, 1048576U}) {
     const struct {
       const char* kind;
       std::string ansi;
@@ -111,9 +122,9 @@ void register_codepage_rows() {
       char* const from_ansi = keep(Places()).text(input.ansi);
       const std::size_t size_utf8 = utf8.size(), size_ansi = input.ansi.size();
       add_rows({"Zeph_UTF8_to_ANSI", "UTF-8", "CP936", from_utf8, size_utf8, size_utf8},
-               Orbane::Zeph_UTF8_to_ANSI, text);
+               Orbane::Zeph_UTF8_to_ANSI, Orbane::Zeph_UTF8_to_ANSI, text);
       add_rows({"Zeph_ANSI_to_UTF8", "CP936", "UTF-8", from_ansi, size_ansi, 2 * size_ansi},
-               Orbane::Zeph_ANSI_to_UTF8, text);
+               Orbane::Zeph_ANSI_to_UTF8, Orbane::Zeph_ANSI_to_UTF8, text);
     }
   }
 }

@@ -1,9 +1,10 @@
 // Comparison against the runtime's own services, on texts that are equal (the whole length is
-// read) and on texts that differ in their first and in their last byte.
+// read) and on texts that differ in their first, middle or last byte.
 #include <strings.h>
 
 #include <cstring>
 #include <string>
+#include <utility>
 
 #if ZEPH_BENCH_HAS_ABSEIL
 #include <absl/strings/match.h>
@@ -20,62 +21,97 @@ namespace {
 
 struct Pair {
   std::string a, b;
-  char *a_bytes, *b_bytes;
   Places places;
-  int n;  // the count of the prefix members: all but the last byte
+  char *a_bytes, *b_bytes;
+  int n;  // the count of the prefix members
+  std::size_t size;
+
+  Pair(std::string first, std::string second, std::size_t count)
+      : a(std::move(first)),
+        b(std::move(second)),
+        a_bytes(places.text(a)),
+        b_bytes(places.text(b)),
+        n(static_cast<int>(count)),
+        size(count) {}
 };
 
-Pair make_pair(std::size_t size, bool fold, char first) {
-  Pair pair{};
-  while (pair.a.size() < size) pair.a += "Chamber Pressure 0.75 mTorr; ";
-  pair.a.resize(size);
-  pair.b = pair.a;
-  if (fold) {
-    for (char& byte : pair.b)
-      byte = byte >= 'a' && byte <= 'z' ? static_cast<char>(byte - 32) : byte;
-  }
-  pair.b.front() = first;
-  pair.n = static_cast<int>(size) - 1;
-  pair.a_bytes = pair.places.text(pair.a);
-  pair.b_bytes = pair.places.text(pair.b);
-  return pair;
+std::string prose(std::size_t size) {
+  std::string text;
+  while (text.size() < size) text += "Chamber Pressure 0.75 mTorr; ";
+  text.resize(size);
+  return text;
 }
 
-void add_exact_rows(Pair& t, const std::string& input) {
+std::string upper(std::string text) {
+  for (char& byte : text) byte = static_cast<char>(byte >= 'a' && byte <= 'z' ? byte - 32 : byte);
+  return text;
+}
+
+const char* const same_service =
+    "the same service does it; a call into the shared object comes first, and one to the service";
+
+void add_byte_row(Pair& t, const std::string& input) {
   row("compare", "Zeph_Compare", input, t.a.size())
       .zeph([&t] { return Orbane::Zeph_Compare(t.a_bytes, t.b_bytes); })
       .peer("strcmp", [&t] { return std::strcmp(t.a_bytes, t.b_bytes) == 0; })
       .limit("memcmp", [&t] { return std::memcmp(t.a_bytes, t.b_bytes, t.a.size()); })
-      .reason(
-          "the same service does it; a call into the shared object comes first, and one to the "
-          "service");
+      .reason(same_service);
+}
+
+void add_folded_byte_row(Pair& t, const std::string& input) {
+  row("compare", "Zeph_Compare_L", input, t.a.size())
+      .zeph([&t] { return Orbane::Zeph_Compare_L(t.a_bytes, t.b_bytes); })
+      .peer("strcasecmp", [&t] { return strcasecmp(t.a_bytes, t.b_bytes) == 0; })
+      .reason(same_service);
+}
+
+// The first n bytes, of byte texts and of Strings.
+void add_prefix_rows(Pair& t, const std::string& input) {
+  row("compare", "Zeph_Compare n", input, t.size)
+      .zeph([&t] { return Orbane::Zeph_Compare(t.a_bytes, t.b_bytes, t.n); })
+      .peer("strncmp", [&t] { return std::strncmp(t.a_bytes, t.b_bytes, t.size) == 0; })
+      .reason(same_service);
+  row("compare", "Zeph_Compare String n", input, t.size)
+      .zeph([&t] { return Orbane::Zeph_Compare(t.a, t.b, t.n); })
+      .peer("strncmp of c_str",
+            [&t] { return std::strncmp(t.a.c_str(), t.b.c_str(), t.size) == 0; })
+      .peer("std::string::compare", [&t] { return t.a.compare(0, t.size, t.b, 0, t.size) == 0; })
+      .reason(same_service);
+}
+
+void add_folded_prefix_rows(Pair& t, const std::string& input) {
+  row("compare", "Zeph_Compare_L n", input, t.size)
+      .zeph([&t] { return Orbane::Zeph_Compare_L(t.a_bytes, t.b_bytes, t.n); })
+      .peer("strncasecmp", [&t] { return strncasecmp(t.a_bytes, t.b_bytes, t.size) == 0; })
+      .reason(same_service);
+  auto& strings = row("compare", "Zeph_Compare_L String n", input, t.size);
+  strings.zeph([&t] { return Orbane::Zeph_Compare_L(t.a, t.b, t.n); })
+      .peer("strncasecmp of c_str",
+            [&t] { return strncasecmp(t.a.c_str(), t.b.c_str(), t.size) == 0; })
+      .reason(same_service);
+#if ZEPH_BENCH_HAS_ABSEIL
+  strings.peer("absl::EqualsIgnoreCase", [&t] {
+    const absl::string_view a(t.a), b(t.b);
+    return absl::EqualsIgnoreCase(a.substr(0, t.size), b.substr(0, t.size));
+  });
+#else
+  strings.missing_peer("abseil");
+#endif
+}
+
+void add_string_row(Pair& t, const std::string& input) {
   row("compare", "Zeph_Compare String", input, t.a.size())
       .zeph([&t] { return Orbane::Zeph_Compare(t.a, t.b); })
       .peer("strcmp of c_str", [&t] { return std::strcmp(t.a.c_str(), t.b.c_str()) == 0; })
       .peer("std::string ==", [&t] { return t.a == t.b; })
       .reason("a call into the shared object; what it does there takes a nanosecond");
-  row("compare", "Zeph_Compare n", input, t.a.size())
-      .zeph([&t] { return Orbane::Zeph_Compare(t.a_bytes, t.b_bytes, t.n); })
-      .peer("strncmp",
-            [&t] { return std::strncmp(t.a_bytes, t.b_bytes, static_cast<std::size_t>(t.n)) == 0; })
-      .reason(
-          "the same service does it; a call into the shared object comes first, and one to the "
-          "service");
 }
 
-void add_fold_rows(Pair& t, const std::string& input) {
-  row("compare", "Zeph_Compare_L", input, t.a.size())
-      .zeph([&t] { return Orbane::Zeph_Compare_L(t.a_bytes, t.b_bytes); })
-      .peer("strcasecmp", [&t] { return strcasecmp(t.a_bytes, t.b_bytes) == 0; })
-      .reason(
-          "the same service does it; a call into the shared object comes first, and one to the "
-          "service");
+void add_folded_string_row(Pair& t, const std::string& input) {
   auto& strings = row("compare", "Zeph_Compare_L String", input, t.a.size());
   strings.zeph([&t] { return Orbane::Zeph_Compare_L(t.a, t.b); })
       .peer("strcasecmp of c_str", [&t] { return strcasecmp(t.a.c_str(), t.b.c_str()) == 0; })
-      .reason(
-          "the same service does it; a call into the shared object comes first, and one to the "
-          "service");
+      .reason(same_service);
 #if ZEPH_BENCH_HAS_ABSEIL
   strings.peer("absl::EqualsIgnoreCase", [&t] { return absl::EqualsIgnoreCase(t.a, t.b); });
 #else
@@ -86,25 +122,46 @@ void add_fold_rows(Pair& t, const std::string& input) {
 #else
   strings.missing_peer("Boost");
 #endif
-  row("compare", "Zeph_Compare_L n", input, t.a.size())
-      .zeph([&t] { return Orbane::Zeph_Compare_L(t.a_bytes, t.b_bytes, t.n); })
-      .peer("strncasecmp",
-            [&t] { return strncasecmp(t.a_bytes, t.b_bytes, static_cast<std::size_t>(t.n)) == 0; })
-      .reason(
-          "the same service does it; a call into the shared object comes first, and one to the "
-          "service");
+}
+
+void add_equal_rows(std::size_t size) {
+  const std::string text = prose(size);
+  Pair& equal = keep(Pair(text, text, size - 1));
+  const std::string input = size_text(size) + ", equal";
+  add_byte_row(equal, input);
+  add_string_row(equal, input);
+  add_prefix_rows(equal, input);
+  Pair& folded = keep(Pair(text, upper(text), size - 1));
+  const std::string other_case = size_text(size) + ", other case";
+  add_folded_byte_row(folded, other_case);
+  add_folded_string_row(folded, other_case);
+  add_folded_prefix_rows(folded, other_case);
+}
+
+void add_differing_rows(std::size_t size, std::size_t place, const std::string& where) {
+  const std::string text = prose(size), input = size_text(size) + ", " + where + " differs";
+  std::string other = text;
+  other[place] = '#';
+  Pair& exact = keep(Pair(text, other, size));
+  Pair& folded = keep(Pair(text, upper(other), size));
+  add_byte_row(exact, input);
+  add_folded_byte_row(folded, input);
+  if (size != 64) return;
+  add_string_row(exact, input);
+  add_prefix_rows(exact, input);
+  add_folded_string_row(folded, input);
+  add_folded_prefix_rows(folded, input);
 }
 
 }  // namespace
 
 void register_compare_rows() {
-  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
-    add_exact_rows(keep(make_pair(size, false, 'C')), size_text(size) + ", equal");
-    add_fold_rows(keep(make_pair(size, true, 'C')), size_text(size) + ", other case");
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) add_equal_rows(size);
+  for (const std::size_t size : {8U, 32U, 64U, 4096U}) {
+    add_differing_rows(size, 0, "first");
+    add_differing_rows(size, size / 2, "middle");
+    add_differing_rows(size, size - 1, "last");
   }
-  Pair& first = keep(make_pair(64, false, '#'));
-  add_exact_rows(first, "64 bytes, first differs");
-  add_fold_rows(first, "64 bytes, first differs");
 }
 
 }  // namespace zeph_bench

@@ -123,8 +123,9 @@ template <std::size_t count>
 template <std::size_t count>
 [[gnu::noinline]] int cut_by_getline(const std::string& text, char separator, std::string* outs) {
   std::istringstream stream(text);
-  for (std::size_t i = 0; i + 1 < count; ++i) std::getline(stream, outs[i], separator);
-  std::getline(stream, outs[count - 1], '\0');
+  for (std::size_t i = 0; i < count; ++i) {
+    if (!std::getline(stream, outs[i], i + 1 < count ? separator : '\0')) outs[i].clear();
+  }
   return 0;
 }
 
@@ -135,6 +136,7 @@ template <std::size_t count, typename Outputs, typename Use>
 int with_outputs(Outputs& outs, Use use) {
   if constexpr (count == 2) use(outs[0], outs[1]);
   if constexpr (count == 3) use(outs[0], outs[1], outs[2]);
+  if constexpr (count == 4) use(outs[0], outs[1], outs[2], outs[3]);
   if constexpr (count == 5) use(outs[0], outs[1], outs[2], outs[3], outs[4]);
   return 0;
 }
@@ -213,6 +215,7 @@ void add_string_rows(Cut& c, const std::string& input) {
          absl::StrSplit(c.text, absl::MaxSplits(c.separator, count - 1))) {
       c.strings[i++].assign(field.data(), field.size());
     }
+    while (i < count) c.strings[i++].clear();
     return 0;
   });
 #else
@@ -230,25 +233,29 @@ std::string make_text(const std::vector<std::size_t>& sizes, char separator) {
   return text;
 }
 
-void add_rows(const std::vector<std::size_t>& sizes, const std::string& input, int limit) {
+template <std::size_t... counts>
+void add_rows(const std::string& text, const std::string& input, int limit) {
   for (const char separator : {',', ' '}) {
-    Cut& c = keep(Cut(make_text(sizes, separator), separator, limit));
-    add_byte_rows<2>(c, input);
-    add_byte_rows<3>(c, input);
-    add_byte_rows<5>(c, input);
-    add_string_rows<3>(c, input);
+    std::string cut_at = text;
+    std::replace(cut_at.begin(), cut_at.end(), '|', separator);
+    Cut& c = keep(Cut(cut_at, separator, limit));
+    (add_byte_rows<counts>(c, input), ...);
+    (add_string_rows<counts>(c, input), ...);
   }
 }
 
 }  // namespace
 
 void register_fields_rows() {
-  add_rows({2, 3, 1, 3, 3}, "16 bytes", 63);
-  add_rows({19, 6, 8, 12, 15}, "64 bytes", 255);
+  const auto text = make_text;
+  add_rows<2, 3, 5>(text({2, 3, 1, 3, 3}, '|'), "16 bytes", 63);
+  add_rows<2, 3, 4, 5>(text({6, 4, 6, 5, 7}, '|'), "32 bytes", 63);
+  add_rows<2, 3, 4, 5>(text({19, 6, 8, 12, 15}, '|'), "64 bytes", 255);
+  add_rows<3>(text({64}, '|'), "64 bytes, no separator", 255);
   // Words are left out: a full middle field ends the whole cut there, which no peer does.
-  add_byte_rows<3>(keep(Cut(make_text({12, 12, 12, 12, 12}, ','), ',', 8)), "64 bytes, limit 8");
-  add_rows({40, 60, 80, 100, 3812}, "4 KiB, long rest", 4096);
-  add_rows({818, 818, 818, 818, 820}, "4 KiB, long fields", 4096);
+  add_byte_rows<3>(keep(Cut(text({12, 12, 12, 12, 12}, ','), ',', 8)), "64 bytes, limit 8");
+  add_rows<2, 3, 5>(text({40, 60, 80, 100, 3812}, '|'), "4 KiB, long rest", 4096);
+  add_rows<2, 3, 5>(text({818, 818, 818, 818, 820}, '|'), "4 KiB, long fields", 4096);
 }
 
 }  // namespace zeph_bench

@@ -1,5 +1,9 @@
 // Position search in byte texts against the C library's searches and std::string_view, whose length
 // comes from the text as Zeph's does.
+#include <strings.h>
+
+#include <algorithm>
+#include <cctype>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -74,6 +78,22 @@ void add_rows(Search search, const std::string& input) {
 #endif
 }
 
+void add_contains_rows(Search search, const std::string& input) {
+  Search& s = keep(std::move(search));
+  row("search", "Zeph_Find_SubString", input, s.text.size())
+      .reason("the same service does it, behind a call into the shared object")
+      .zeph([&s] { return Orbane::Zeph_Find_SubString(s.bytes, s.sought); })
+      .peer("strstr", [&s] { return strstr(s.bytes, s.sought) != nullptr; })
+      .peer("string_view::find",
+            [&s] { return std::string_view(s.bytes).find(s.sought) != std::string_view::npos; });
+  row("search", "Zeph_Find_SubString_L", input, s.text.size())
+      .reason("a call more into the shared library, and one that asks for the locale")
+      .zeph([&s] { return Orbane::Zeph_Find_SubString_L(s.bytes, s.sought); })
+      .peer("strcasestr", [&s] { return strcasestr(s.bytes, s.sought) != nullptr; });
+}
+
+// ---- all but the first and the last byte of the text ----
+
 [[gnu::noinline]] int find_in_slice(const char* text, std::size_t begin, std::size_t end,
                                     const char* pattern) {
   const std::size_t size = strnlen(text, end);
@@ -82,15 +102,52 @@ void add_rows(Search search, const std::string& input) {
   return place(text, static_cast<const char*>(found));
 }
 
-// All but the first and the last byte of the text.
-void add_range_row(Search search, const std::string& input) {
+[[gnu::noinline]] int find_folded_in_slice(const char* text, std::size_t begin, std::size_t end,
+                                           const char* pattern) {
+  const std::size_t size = strnlen(text, end), pattern_size = std::strlen(pattern);
+  for (std::size_t at = begin; at + pattern_size <= size; ++at) {
+    if (strncasecmp(text + at, pattern, pattern_size) == 0) return static_cast<int>(at);
+  }
+  return -1;
+}
+
+[[gnu::noinline]] int search_folded_in_slice(const char* text, std::size_t begin, std::size_t end,
+                                             const char* pattern) {
+  const char* const last = text + strnlen(text, end);
+  const auto fold = [](char byte) { return std::tolower(static_cast<unsigned char>(byte)); };
+  const char* const found = std::search(text + begin, last, pattern, pattern + std::strlen(pattern),
+                                        [fold](char a, char b) { return fold(a) == fold(b); });
+  return found == last ? -1 : static_cast<int>(found - text);
+}
+
+void add_range_rows(Search search, const std::string& input) {
   Search& s = keep(std::move(search));
-  const auto end = static_cast<int>(s.text.size()) - 1;
-  row("search", "Zeph_Find_Position, a range", input, s.text.size())
-      .zeph([&s, end] { return Orbane::Zeph_Find_Position(s.bytes, 1, end, s.sought); })
-      .peer("strnlen, memmem", [&s, end] {
-        return find_in_slice(s.bytes, 1, static_cast<std::size_t>(end), s.sought);
-      });
+  const std::size_t end = s.text.size() - 1;
+  const int stop = static_cast<int>(end);
+  const std::string range = ", a range";
+  row("search", "Zeph_Find_Position" + range, input, s.text.size())
+      .zeph([&s, stop] { return Orbane::Zeph_Find_Position(s.bytes, 1, stop, s.sought); })
+      .peer("strnlen, memmem", [&s, end] { return find_in_slice(s.bytes, 1, end, s.sought); });
+  row("search", "Zeph_Find_SubString" + range, input, s.text.size())
+      .zeph([&s, stop] { return Orbane::Zeph_Find_SubString(s.bytes, 1, stop, s.sought); })
+      .peer("strnlen, memmem", [&s, end] { return find_in_slice(s.bytes, 1, end, s.sought) >= 0; });
+}
+
+void add_folded_range_rows(Search search, const std::string& input) {
+  Search& s = keep(std::move(search));
+  const std::size_t end = s.text.size() - 1;
+  const int stop = static_cast<int>(end);
+  row("search", "Zeph_Find_Position_L, a range", input, s.text.size())
+      .zeph([&s, stop] { return Orbane::Zeph_Find_Position_L(s.bytes, 1, stop, s.sought); })
+      .peer("strncasecmp loop",
+            [&s, end] { return find_folded_in_slice(s.bytes, 1, end, s.sought); })
+      .peer("std::search", [&s, end] { return search_folded_in_slice(s.bytes, 1, end, s.sought); });
+  row("search", "Zeph_Find_SubString_L, a range", input, s.text.size())
+      .zeph([&s, stop] { return Orbane::Zeph_Find_SubString_L(s.bytes, 1, stop, s.sought); })
+      .peer("strncasecmp loop",
+            [&s, end] { return find_folded_in_slice(s.bytes, 1, end, s.sought) >= 0; })
+      .peer("std::search",
+            [&s, end] { return search_folded_in_slice(s.bytes, 1, end, s.sought) >= 0; });
 }
 
 void add_adversarial_rows(std::size_t size) {
@@ -116,8 +173,14 @@ void register_search_rows() {
     std::string alarm = text;
     alarm.replace(size - 6, 5, "ALARM");
     add_rows({alarm, "ALARM"}, name + ", at the end");
-    add_range_row({alarm, "ALARM"}, name + ", at the end");
-    add_range_row({text, "Pressed"}, name + ", near misses");
+    add_range_rows({alarm, "ALARM"}, name + ", at the end");
+    add_range_rows({text, "Pressed"}, name + ", near misses");
+    if (size <= 4096) {
+      add_contains_rows({alarm, "ALARM"}, name + ", at the end");
+      add_contains_rows({text, "Pressed"}, name + ", near misses");
+      add_folded_range_rows({alarm, "ALARM"}, name + ", at the end");
+      add_folded_range_rows({text, "Pressed"}, name + ", near misses");
+    }
     add_rows({text, "Pressed"}, name + ", near misses");
     add_rows({text, "#"}, name + ", one byte, none");
     add_rows({text, "Chamber"}, name + ", at the start");

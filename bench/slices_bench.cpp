@@ -1,9 +1,10 @@
-// Slices, what stands around a marker, names behind a path and marks taken off, against the members
+// Slices, what stands around a marker and names behind a path, against the members
 // of std::string and the C library.
 #include <algorithm>
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "bench.h"
 #include "zeph.h"
@@ -25,6 +26,20 @@ struct Marked {
   if (std::strlen(text) <= from) return false;
   std::memcpy(out, text + from, count);
   out[count] = '\0';
+  return true;
+}
+
+[[gnu::noinline]] int slice_unasked(const char* text, std::size_t from, std::size_t count,
+                                    char* out) {
+  std::memcpy(out, text + from, count);
+  out[count] = '\0';
+  return 0;
+}
+
+[[gnu::noinline]] bool slice_string(const std::string& text, std::size_t from, std::size_t count,
+                                    std::string& out) {
+  if (text.size() <= from) return false;
+  out.assign(text, from, count);
   return true;
 }
 
@@ -53,9 +68,21 @@ template <typename Marker>
   return 0;
 }
 
-[[gnu::noinline]] int left_of(const std::string& text, const std::string& marker,
-                              std::string& out) {
+template <typename Marker>
+[[gnu::noinline]] std::string right_copy(const std::string& text, const Marker& marker,
+                                         std::size_t size) {
+  const std::size_t at = text.rfind(marker);
+  return text.substr(at == std::string::npos ? 0 : at + size);
+}
+
+template <typename Marker>
+[[gnu::noinline]] int left_of(const std::string& text, const Marker& marker, std::string& out) {
   return out.assign(text, 0, text.find(marker)), 0;
+}
+
+template <typename Marker>
+[[gnu::noinline]] std::string left_copy(const std::string& text, const Marker& marker) {
+  return text.substr(0, text.find(marker));
 }
 
 [[gnu::noinline]] bool between(const std::string& text, char open, char close, std::string& out) {
@@ -67,57 +94,98 @@ template <typename Marker>
 
 // ---- the rows ----
 
-void add_byte_rows(Marked& m, const std::string& input) {
-  const int third = static_cast<int>(m.text.size() / 3);
-  row("slices", "Zeph_Get_SubString", input, m.text.size())
-      .outputs([&m] { return std::string(m.bytes); })
-      .zeph([&m, third] { return Orbane::Zeph_Get_SubString(m.from, third, third, m.bytes); })
-      .peer("strlen, memcpy", [&m, third] {
-        const auto size = static_cast<std::size_t>(third);
-        return slice(m.from, size, size, m.bytes);
-      });
+void add_name_row(Marked& m, const std::string& input) {
+  const auto room = static_cast<std::size_t>(m.size);
   row("slices", "Zeph_Ext_Name_From_FullPath", input, m.text.size())
-      .outputs([&m] { return std::string(m.bytes); })
+      .outputs([&m] { return take(m.bytes); })
       .zeph([&m] { return Orbane::Zeph_Ext_Name_From_FullPath(m.bytes, m.from, m.size), 0; })
-      .peer("two of strrchr, memcpy",
-            [&m] { return name_of(m.bytes, m.from, static_cast<std::size_t>(m.size)); })
-      .peer("find_last_of, copy",
-            [&m] { return name_of_view(m.bytes, m.from, static_cast<std::size_t>(m.size)); });
+      .peer("two of strrchr, memcpy", [&m, room] { return name_of(m.bytes, m.from, room); })
+      .peer("find_last_of, copy", [&m, room] { return name_of_view(m.bytes, m.from, room); });
 }
 
-void add_string_rows(Marked& m, const std::string& input) {
-  const auto read = [&m] { return m.out; };
-  row("slices", "Zeph_Right, a byte", input, m.text.size())
+void add_byte_rows(Marked& m, const std::string& input) {
+  const int third = m.size / 3;
+  const auto count = static_cast<std::size_t>(third);
+  const auto read = [&m] { return take(m.bytes); };
+  row("slices", "Zeph_Get_SubString", input, m.text.size())
       .outputs(read)
-      .zeph([&m] { return Orbane::Zeph_Right(m.text, '/', m.out), 0; })
-      .peer("rfind, assign", [&m] { return right_of(m.text, '/', 1, m.out); });
-  static const std::string marker = "=>";
-  row("slices", "Zeph_Right, a text", input, m.text.size())
+      .zeph([&m, third] { return Orbane::Zeph_Get_SubString(m.from, third, third, m.bytes); })
+      .peer("strlen, memcpy", [&m, count] { return slice(m.from, count, count, m.bytes); });
+  row("slices", "Zeph_Ext_Str_From_Str", input, m.text.size())
       .outputs(read)
-      .zeph([&m] { return Orbane::Zeph_Right(m.text, marker, m.out), 0; })
-      .peer("rfind, assign", [&m] { return right_of(m.text, marker, 2, m.out); });
-  row("slices", "Zeph_Left, a text", input, m.text.size())
+      .zeph([&m, third] { return Orbane::Zeph_Ext_Str_From_Str(m.from, third, third, m.bytes), 0; })
+      .peer("memcpy", [&m, count] { return slice_unasked(m.from, count, count, m.bytes); });
+  add_name_row(m, input);
+}
+
+void add_string_slice_rows(Marked& m, const std::string& input) {
+  const int third = m.size / 3;
+  const auto count = static_cast<std::size_t>(third);
+  const auto read = [&m] { return std::exchange(m.out, "#"); };
+  row("slices", "Zeph_Get_SubString String", input, m.text.size())
       .outputs(read)
-      .zeph([&m] { return Orbane::Zeph_Left(m.text, marker, m.out), 0; })
-      .peer("find, assign", [&m] { return left_of(m.text, marker, m.out); });
+      .zeph([&m, third] { return Orbane::Zeph_Get_SubString(m.text, third, third, m.out); })
+      .peer("assign", [&m, count] { return slice_string(m.text, count, count, m.out); });
+  row("slices", "Zeph_Ext_Str_From_Str String", input, m.text.size())
+      .outputs(read)
+      .zeph([&m, third] { return Orbane::Zeph_Ext_Str_From_Str(m.text, third, third, m.out), 0; })
+      .peer("assign", [&m, count] { return m.out.assign(m.text, count, count), 0; });
   row("slices", "Zeph_Get_SubString, between", input, m.text.size())
       .outputs(read)
       .zeph([&m] { return Orbane::Zeph_Get_SubString(m.text, '[', ']', m.out); })
       .peer("find, assign", [&m] { return between(m.text, '[', ']', m.out); });
 }
 
+// The four functions around one marker.
+template <typename Marker>
+void add_marker_rows(Marked& m, const Marker& marker, std::size_t size, const std::string& kind,
+                     const std::string& input) {
+  const auto read = [&m] { return std::exchange(m.out, "#"); };
+  row("slices", "Zeph_Right, " + kind, input, m.text.size())
+      .outputs(read)
+      .zeph([&m, marker] { return Orbane::Zeph_Right(m.text, marker, m.out), 0; })
+      .peer("rfind, assign", [&m, marker, size] { return right_of(m.text, marker, size, m.out); });
+  row("slices", "Zeph_Left, " + kind, input, m.text.size())
+      .outputs(read)
+      .zeph([&m, marker] { return Orbane::Zeph_Left(m.text, marker, m.out), 0; })
+      .peer("find, assign", [&m, marker] { return left_of(m.text, marker, m.out); });
+  if (m.size > 4096) return;  // what is returned differs from what is written by a request alone
+  row("slices", "Zeph_Right, returned, " + kind, input, m.text.size())
+      .zeph([&m, marker] { return Orbane::Zeph_Right(m.text, marker); })
+      .peer("rfind, substr", [&m, marker, size] { return right_copy(m.text, marker, size); });
+  row("slices", "Zeph_Left, returned, " + kind, input, m.text.size())
+      .zeph([&m, marker] { return Orbane::Zeph_Left(m.text, marker); })
+      .peer("find, substr", [&m, marker] { return left_copy(m.text, marker); });
+}
+
+Marked& make_marked(const std::string& text) {
+  Marked& m = keep(Marked{text, "", {}, nullptr, nullptr, static_cast<int>(text.size())});
+  m.from = m.places.text(text);
+  m.bytes = m.places.room(text.size() + 1);
+  return m;
+}
+
 }  // namespace
 
 void register_slices_rows() {
-  for (const std::size_t size : {32U, 64U, 4096U, 65536U, 1048576U}) {
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
     // The marks stand near the front, so that what looks from the end has a way to go.
     std::string text = "a[b]=>c/";
     text.resize(size, 'x');
-    Marked& m = keep(Marked{text, "", {}, nullptr, nullptr, static_cast<int>(size)});
-    m.from = m.places.text(text);
-    m.bytes = m.places.room(size + 1);
-    add_byte_rows(m, size_text(size));
-    add_string_rows(m, size_text(size));
+    Marked& m = make_marked(text);
+    const std::string input = size_text(size);
+    add_byte_rows(m, input);
+    add_string_slice_rows(m, input);
+    add_marker_rows(m, '/', 1, "a byte", input);
+    add_marker_rows(m, std::string("=>"), 2, "a text", input);
+  }
+  add_name_row(make_marked("/var/log/chamber2/2025/07/29/alarm.log"), "a path, 38 bytes");
+  add_name_row(make_marked("alarm.log"), "no folder, 9 bytes");
+  for (const std::size_t size : {64U, 4096U}) {
+    Marked& none = make_marked(std::string(size, 'x'));
+    const std::string input = size_text(size) + ", none";
+    add_marker_rows(none, '/', 1, "a byte", input);
+    add_marker_rows(none, std::string("=>"), 2, "a text", input);
   }
 }
 
