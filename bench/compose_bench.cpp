@@ -1,4 +1,6 @@
 // Appending, printing and copying against what a user would write instead.
+#include <algorithm>
+#include <charconv>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -21,19 +23,27 @@ namespace {
 constexpr std::size_t room_size = 2048;
 
 // What is appended to a text of so many bytes; each call starts with that text again.
-template <typename Value, typename Append>
-void add_append_row(const char* operation, std::size_t size, Value value, const char* peer,
-                    Append append) {
-  char* const room = keep(Places()).text(std::string(size, 'x'), room_size);
-  const auto start = [room, size] {
-    room[size] = '\0';
-    return room;
-  };
-  row("compose", operation, "to " + size_text(size), size)
+struct Start {
+  char* text;
+  std::size_t size;
+
+  char* again() const {
+    text[size] = '\0';
+    return text;
+  }
+};
+
+template <typename Append>
+auto on_start(Start start, Append append) {
+  return [start, append] { return append(start.again()), true; };
+}
+
+template <typename Value>
+Row& add_append_row(const char* operation, Start start, Value value) {
+  return row("compose", operation, "to " + size_text(start.size), start.size)
       .reason("strcat finds the end and copies by one service; Zeph takes three calls")
-      .outputs([room] { return std::string(room); })
-      .zeph([start, value] { return Orbane::Zeph_Cat(start(), value) != nullptr; })
-      .peer(peer, [start, value, append] { return append(start(), value), true; });
+      .outputs([start] { return std::string(start.text); })
+      .zeph(on_start(start, [value](char* text) { Orbane::Zeph_Cat(text, value); }));
 }
 
 [[gnu::noinline]] void append_byte(char* text, char byte) {
@@ -42,26 +52,92 @@ void add_append_row(const char* operation, std::size_t size, Value value, const 
   end[1] = '\0';
 }
 
+[[gnu::noinline]] void append_real(char* text, double value) {
+  char* const end = text + std::strlen(text);
+  *std::to_chars(end, end + 320, value, std::chars_format::fixed, 6).ptr = '\0';
+}
+
+[[gnu::noinline]] void append_text(char* text, const char* more) {
+  std::memcpy(text + std::strlen(text), more, std::strlen(more) + 1);
+}
+
+[[gnu::noinline]] void print_integer(char* text, int value) {
+  std::sprintf(text + std::strlen(text), "%d", value);
+}
+
+[[gnu::noinline]] void print_real(char* text, double value) {
+  std::sprintf(text + std::strlen(text), "%f", value);
+}
+
+[[gnu::noinline]] void append_integer(char* text, int value) {
+  char* const end = text + std::strlen(text);
+  *std::to_chars(end, end + 16, value).ptr = '\0';
+}
+
 void add_append_rows(std::size_t size) {
   Places& places = keep(Places());
-  places.room(1);  // the place that the text has among its own
+  const Start start{places.text(std::string(size, 'x'), room_size), size};
   const char* const more = places.text("Pressure0.75");
-  add_append_row("Zeph_Cat, 12 bytes", size, more, "strcat",
-                 [](char* text, const char* more) { std::strcat(text, more); });
-  add_append_row("Zeph_Cat, char", size, ';', "strlen, two bytes", append_byte);
-  add_append_row("Zeph_Cat, int", size, 421337, "strlen, sprintf", [](char* text, int value) {
-    std::sprintf(text + std::strlen(text), "%d", value);
-  });
-  add_append_row(
-      "Zeph_Cat, double", size, 421.337, "strlen, sprintf",
-      [](char* text, double value) { std::sprintf(text + std::strlen(text), "%f", value); });
+  add_append_row("Zeph_Cat, 12 bytes", start, more)
+      .peer("strcat", on_start(start, [more](char* text) { std::strcat(text, more); }))
+      .peer("two of strlen, memcpy",
+            on_start(start, [more](char* text) { append_text(text, more); }));
+  add_append_row("Zeph_Cat, char", start, ';')
+      .peer("strlen, two bytes", on_start(start, [](char* text) { append_byte(text, ';'); }));
+  auto& integers = add_append_row("Zeph_Cat, int", start, 421337);
+  integers.peer("strlen, sprintf", on_start(start, [](char* text) { print_integer(text, 421337); }))
+      .peer("strlen, std::to_chars",
+            on_start(start, [](char* text) { append_integer(text, 421337); }));
 #if ZEPH_BENCH_HAS_FMT
-  add_append_row("Zeph_Cat, int ", size, 421337, "strlen, fmt::format_int",
-                 [](char* text, int value) {
-                   const fmt::format_int digits(value);
-                   std::memcpy(text + std::strlen(text), digits.data(), digits.size());
-                   text[std::strlen(text)] = '\0';
-                 });
+  integers.peer("strlen, fmt::format_int", on_start(start, [](char* text) {
+                  const fmt::format_int digits(421337);
+                  append_text(text, digits.c_str());
+                }));
+#else
+  integers.missing_peer("fmt");
+#endif
+  add_append_row("Zeph_Cat, double", start, 421.337)
+      .peer("strlen, sprintf", on_start(start, [](char* text) { print_real(text, 421.337); }))
+      .peer("strlen, std::to_chars",
+            on_start(start, [](char* text) { append_real(text, 421.337); }));
+  add_append_row("Zeph_Cat, float", start, 0.75F)
+      .peer("strlen, sprintf", on_start(start, [](char* text) { print_real(text, 0.75); }))
+      .peer("strlen, std::to_chars", on_start(start, [](char* text) { append_real(text, 0.75); }));
+}
+
+// The same format and values for everybody.
+template <typename... Values>
+void add_format_row(const char* format, int room, Values... values) {
+  auto& printed = row("compose", std::string("Zeph_Splicing, ") + format, "short", 0);
+  printed.zeph([format, room, values...] { return Orbane::Zeph_Splicing(room, format, values...); })
+      .peer("snprintf to a String", [format, room, values...] {
+        std::string text(static_cast<std::size_t>(room), '\0');
+        const int length = std::snprintf(text.data(), text.size(), format, values...);
+        text.resize(static_cast<std::size_t>(std::min(length, room - 1)));
+        return text;
+      });
+#if ZEPH_BENCH_HAS_FMT
+  printed.peer("fmt::sprintf", [format, room, values...] {
+    std::string text = fmt::sprintf(format, values...);
+    if (text.size() >= static_cast<std::size_t>(room)) {
+      text.resize(static_cast<std::size_t>(room) - 1);
+    }
+    return text;
+  });
+#else
+  printed.missing_peer("fmt");
+#endif
+#if ZEPH_BENCH_HAS_ABSEIL
+  printed.peer("absl::FormatUntyped", [format, room, values...] {
+    std::string text;
+    absl::FormatUntyped(&text, absl::UntypedFormatSpec(format), {absl::FormatArg(values)...});
+    if (text.size() >= static_cast<std::size_t>(room)) {
+      text.resize(static_cast<std::size_t>(room) - 1);
+    }
+    return text;
+  });
+#else
+  printed.missing_peer("abseil");
 #endif
 }
 
@@ -88,11 +164,95 @@ void add_print_row(std::size_t size) {
 #endif
 }
 
+// ---- alarm texts ----
+
+constexpr std::size_t alarm_room = 512;
+
+// What a careful user writes: the first halves, a '|', the second halves, within the room.
+[[gnu::noinline]] void join_alarms(char* out, const char* const* texts, std::size_t count) {
+  std::string joined;
+  for (std::size_t i = 0; i < count; ++i) {
+    const char* const end = strchrnul(texts[i], '|');
+    if (i > 0) joined += ' ';
+    joined.append(texts[i], static_cast<std::size_t>(end - texts[i]));
+  }
+  joined += '|';
+  for (std::size_t i = 0; i < count; ++i) {
+    const char* const bar = std::strchr(texts[i], '|');
+    if (i > 0) joined += ' ';
+    joined += bar ? bar + 1 : texts[i];
+  }
+  const std::size_t size = std::min(joined.size(), alarm_room - 1);
+  std::memcpy(out, joined.data(), size);
+  out[size] = '\0';
+}
+
+// The same by appending to two rooms.
+[[gnu::noinline]] void join_alarms_by_strcat(char* out, const char* const* texts,
+                                             std::size_t count) {
+  char first[alarm_room] = "", second[alarm_room] = "";
+  for (std::size_t i = 0; i < count; ++i) {
+    const char* const bar = std::strchr(texts[i], '|');
+    if (i > 0) std::strcat(first, " "), std::strcat(second, " ");
+    std::strncat(first, texts[i], static_cast<std::size_t>(strchrnul(texts[i], '|') - texts[i]));
+    std::strcat(second, bar ? bar + 1 : texts[i]);
+  }
+  std::snprintf(out, alarm_room, "%s|%s", first, second);
+}
+
+template <std::size_t count>
+void add_alarm_row() {
+  struct Alarm {
+    Places places;
+    char* out;
+    const char* texts[6];
+  };
+  const char* const texts[] = {"DOOR OPEN|door of chamber 2 open",
+                               "PUMP|pump stopped",
+                               "CHAMBER 2",
+                               "GAS|gas line 4 closed",
+                               "|no operator",
+                               "STOP|process stopped"};
+  Alarm& a = keep(Alarm{});
+  for (std::size_t i = 0; i < count; ++i) a.texts[i] = a.places.text(texts[i]);
+  a.out = a.places.room(alarm_room);
+  const auto start = [&a, size = std::strlen(texts[0]) + 1] {
+    return static_cast<char*>(std::memcpy(a.out, a.texts[0], size));
+  };
+  auto& added =
+      row("compose", "Zeph_Strcat_Alarm_Append_Text", std::to_string(count) + " texts", 0);
+  added.outputs([&a] { return take(a.out); });
+  added.zeph([&a, start] {
+    const auto& t = a.texts;
+    if constexpr (count == 2) Orbane::Zeph_Strcat_Alarm_Append_Text(start(), t[1]);
+    if constexpr (count == 3) Orbane::Zeph_Strcat_Alarm_Append_Text(start(), t[1], t[2]);
+    if constexpr (count == 4) Orbane::Zeph_Strcat_Alarm_Append_Text(start(), t[1], t[2], t[3]);
+    if constexpr (count == 5) {
+      Orbane::Zeph_Strcat_Alarm_Append_Text(start(), t[1], t[2], t[3], t[4]);
+    }
+    if constexpr (count == 6) {
+      Orbane::Zeph_Strcat_Alarm_Append_Text(start(), t[1], t[2], t[3], t[4], t[5]);
+    }
+    return 0;
+  });
+  added.peer("append loop", [&a] { return join_alarms(a.out, a.texts, count), 0; })
+      .peer("strcat loop", [&a] { return join_alarms_by_strcat(a.out, a.texts, count), 0; });
+}
+
 }  // namespace
 
 void register_compose_rows() {
-  for (const std::size_t size : {8U, 64U}) add_append_rows(size);
+  for (const std::size_t size : {8U, 32U, 64U}) add_append_rows(size);
   for (const std::size_t size : {32U, 1024U}) add_print_row(size);
+  add_format_row("%5.2f mTorr", 64, 0.75);
+  add_format_row("%-8s|%08X", 64, "slot", 0xBEEFU);
+  add_format_row("%d/%d/%d %s: %.3f %s", 128, 2025, 7, 29, "Pressure", 0.75, "mTorr");
+  add_format_row("%s, cut", 16, "Chamber Pressure 0.75 mTorr");
+  add_alarm_row<2>();
+  add_alarm_row<3>();
+  add_alarm_row<4>();
+  add_alarm_row<5>();
+  add_alarm_row<6>();
 }
 
 }  // namespace zeph_bench

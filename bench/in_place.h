@@ -29,10 +29,11 @@ struct StringCopy {
   }
 };
 
-inline ByteCopy byte_copy(const std::string& text) {
+// With room for a longer text, where the change makes one.
+inline ByteCopy byte_copy(const std::string& text, std::size_t room = 0) {
   Places& places = keep(Places());
   const char* const source = places.text(text);
-  return {source, places.text(text), text.size() + 1};
+  return {source, places.text(text, room), text.size() + 1};
 }
 
 inline StringCopy& string_copy(const std::string& text) {

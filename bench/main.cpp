@@ -16,6 +16,7 @@ void register_cipher_rows();
 void register_codepage_rows();
 void register_compare_rows();
 void register_compose_rows();
+void register_dump_rows();
 void register_enclosures_rows();
 void register_fields_rows();
 void register_growth_rows();
@@ -23,6 +24,7 @@ void register_indexed_rows();
 void register_integer_rows();
 void register_lists_rows();
 void register_normalise_rows();
+void register_real_print_rows();
 void register_real_rows();
 void register_reverse_rows();
 void register_rewrite_rows();
@@ -42,16 +44,17 @@ struct Family {
 
 // A family may have several files.
 constexpr Family families[] = {
-    {"buffers", register_buffers_rows},     {"cipher", register_cipher_rows},
-    {"codepage", register_codepage_rows},   {"compare", register_compare_rows},
-    {"compose", register_compose_rows},     {"enclosures", register_enclosures_rows},
-    {"fields", register_fields_rows},       {"growth", register_growth_rows},
-    {"indexed", register_indexed_rows},     {"lists", register_lists_rows},
-    {"normalise", register_normalise_rows}, {"normalise", register_blanks_rows},
-    {"number", register_integer_rows},      {"number", register_real_rows},
-    {"reverse", register_reverse_rows},     {"rewrite", register_rewrite_rows},
-    {"search", register_search_rows},       {"slices", register_slices_rows},
-    {"syserror", register_syserror_rows},   {"time", register_time_rows},
+    {"buffers", register_buffers_rows},       {"cipher", register_cipher_rows},
+    {"codepage", register_codepage_rows},     {"compare", register_compare_rows},
+    {"compose", register_compose_rows},       {"dump", register_dump_rows},
+    {"enclosures", register_enclosures_rows}, {"fields", register_fields_rows},
+    {"growth", register_growth_rows},         {"indexed", register_indexed_rows},
+    {"lists", register_lists_rows},           {"normalise", register_normalise_rows},
+    {"normalise", register_blanks_rows},      {"number", register_integer_rows},
+    {"number", register_real_rows},           {"number", register_real_print_rows},
+    {"reverse", register_reverse_rows},       {"rewrite", register_rewrite_rows},
+    {"search", register_search_rows},         {"slices", register_slices_rows},
+    {"syserror", register_syserror_rows},     {"time", register_time_rows},
 };
 
 bool register_family(std::string_view name) {

@@ -1,31 +1,18 @@
-// Replacing, removing, composing and dumping against what a user would write instead.
+// Replacing and removing against what a user would write instead.
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
-#include <regex>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "bench.h"
+#include "in_place.h"
 #include "zeph.h"
 
 #if ZEPH_BENCH_HAS_ABSEIL
 #include <absl/strings/str_replace.h>
 #endif
 #if ZEPH_BENCH_HAS_BOOST
-#include <boost/algorithm/string/erase.hpp>
 #include <boost/algorithm/string/replace.hpp>
-#endif
-#if ZEPH_BENCH_HAS_FMT
-#include <fmt/format.h>
-#include <fmt/ranges.h>
-#endif
-#if ZEPH_BENCH_HAS_OPENSSL
-#include <openssl/crypto.h>
-#endif
-#if ZEPH_BENCH_HAS_RE2
-#include <re2/re2.h>
 #endif
 
 namespace zeph_bench {
@@ -77,205 +64,158 @@ std::string remove_by_stack(const std::string& text, std::string_view pair) {
   return kept;
 }
 
-void add_replace_rows(std::size_t size) {
-  const std::string& pairs = keep(repeat("ab", size));
-  const std::string& nested = keep(std::string(size / 2, 'a') + std::string(size / 2, 'b'));
-  std::string& work = keep(std::string());
-  auto& replace =
-      row("rewrite", "Zeph_Replace byte text, ab -> c", size_text(size) + " abab..", size);
-  Places& places = keep(Places());
-  const char* const from = places.text(pairs);
-  char* const to = places.room(size + 1);
-  replace
-      .zeph([from, to, size] {
-        std::memcpy(to, from, size + 1);
-        Orbane::Zeph_Replace(to, "ab", "c");
-        return static_cast<const char*>(to);
-      })
-      .peer("strstr, memcpy", [from, to] { return replace_by_strstr(from, "ab", "c", to); })
-      .peer("find + append", [&] { return replace_by_append(pairs, "ab", "c"); });
-  auto& string = row("rewrite", "Zeph_Replace String, ab -> c", size_text(size) + " abab..", size);
-  string
-      .zeph([&] {
-        work = pairs;
-        Orbane::Zeph_Replace(work, std::string("ab"), std::string("c"));
-        return work;
-      })
-      .peer("find + append", [&] { return replace_by_append(pairs, "ab", "c"); });
-#if ZEPH_BENCH_HAS_ABSEIL
-  for (Row* each : {&replace, &string}) {
-    each->peer("absl::StrReplaceAll", [&] { return absl::StrReplaceAll(pairs, {{"ab", "c"}}); });
+// The same within a byte text.
+[[gnu::noinline]] void remove_in_place(char* text, std::string_view pair) {
+  char* end = text;
+  for (const char* from = text; *from != '\0'; ++from) {
+    if (*from == pair[1] && end != text && end[-1] == pair[0]) {
+      --end;
+    } else {
+      *end++ = *from;
+    }
   }
-#else
-  replace.missing_peer("abseil");
-#endif
-#if ZEPH_BENCH_HAS_BOOST
-  string.peer("boost::replace_all", [&] {
-    work = pairs;
-    boost::replace_all(work, "ab", "c");
-    return work;
-  });
-#else
-  replace.missing_peer("Boost");
-#endif
-  row("rewrite", "Zeph_Remove, ab", size_text(size) + " aa..bb..", size)
-      .zeph([&] {
-        work = nested;
-        Orbane::Zeph_Remove(work, std::string("ab"));
-        return work;
-      })
-      .peer("stack of bytes", [&] { return remove_by_stack(nested, "ab"); });
-  row("rewrite", "Zeph_Replace a byte", size_text(size) + " abab..", size)
-      .zeph([&] {
-        work = pairs;
-        Orbane::Zeph_Replace(work, 'b', 'c');
-        return std::string_view(work);
-      })
-      .peer("std::replace", [&] {
-        work = pairs;
-        std::replace(work.begin(), work.end(), 'b', 'c');
-        return std::string_view(work);
-      });
-  row("rewrite", "Zeph_Remove a byte", size_text(size) + " abab..", size)
-      .zeph([&] {
-        work = pairs;
-        Orbane::Zeph_Remove(work, 'b');
-        return work;
-      })
-      .peer("std::remove", [&] {
-        work = pairs;
-        work.erase(std::remove(work.begin(), work.end(), 'b'), work.end());
-        return work;
-      });
+  *end = '\0';
 }
 
-std::string dump_by_digits(std::string_view bytes) {
-  std::string dump;
-  dump.reserve(3 * bytes.size());
-  for (const char byte : bytes) {
-    const auto value = static_cast<unsigned char>(byte);
-    if (!dump.empty()) dump.push_back(' ');
-    dump.push_back("0123456789ABCDEF"[value / 16]);
-    dump.push_back("0123456789ABCDEF"[value % 16]);
+// In a text where no removal makes a new occurrence.
+[[gnu::noinline]] void remove_by_find(std::string& text, const std::string& pattern) {
+  for (std::size_t at = 0; (at = text.find(pattern, at)) != std::string::npos;) {
+    text.erase(at, pattern.size());
   }
-  return dump;
 }
 
-std::string dump_by_snprintf(std::string_view bytes) {
-  std::string dump(3 * bytes.size() + 1, '\0');
-  char* out = dump.data();
-  for (const char byte : bytes) out += std::snprintf(out, 4, "%02X ", byte & 0xFF);
-  dump.resize(3 * bytes.size() - 1);
-  return dump;
+[[gnu::noinline]] void remove_by_strstr(char* text, const char* pattern) {
+  const std::size_t size = std::strlen(pattern);
+  for (char* at = text; (at = std::strstr(at, pattern)) != nullptr;) {
+    std::memmove(at, at + size, std::strlen(at + size) + 1);
+  }
 }
 
-void add_dump_row(std::size_t size) {
-  struct Dump {
-    Places places;
-    std::string_view bytes;
-    char *room, *block = nullptr;
-    std::string own;
-    const char* shown = "";
-  };
-  Dump& d = keep(Dump());
-  char* const source = d.places.room(size);
-  for (std::size_t i = 0; i < size; ++i) source[i] = static_cast<char>(i * 37);
-  d.bytes = {source, size};
-  d.room = d.places.room(3 * size + 1);
-  auto& dump = row("rewrite", "Zeph_To_Ascii to a buffer", size_text(size), size);
-  dump.outputs([&d] { return std::string(std::exchange(d.shown, "none")); })
-      .zeph([&d] {
-        d.shown = Orbane::Zeph_To_Ascii(d.bytes.data(), static_cast<int>(d.bytes.size()), &d.block);
-        return 0;
-      })
-      .peer("byte loop",
-            [&d] {
-              d.own = dump_by_digits(d.bytes);
-              d.shown = d.own.c_str();
-              return 0;
-            })
-      .peer("snprintf", [&d] {
-        d.own = dump_by_snprintf(d.bytes);
-        d.shown = d.own.c_str();
-        return 0;
-      });
-#if ZEPH_BENCH_HAS_OPENSSL
-  dump.peer("OPENSSL_buf2hexstr_ex", [&d] {
-    std::size_t length = 0;
-    OPENSSL_buf2hexstr_ex(d.room, 3 * d.bytes.size() + 1, &length,
-                          reinterpret_cast<const unsigned char*>(d.bytes.data()),
-                          static_cast<long>(d.bytes.size()), ' ');
-    d.shown = d.room;
-    return 0;
-  });
-#else
-  dump.missing_peer("OpenSSL");
-#endif
-#if ZEPH_BENCH_HAS_FMT
-  dump.peer("fmt::format", [&d] {
-    const auto* const from = reinterpret_cast<const unsigned char*>(d.bytes.data());
-    d.own = fmt::format("{:02X}", fmt::join(from, from + d.bytes.size(), " "));
-    d.shown = d.own.c_str();
-    return 0;
-  });
-#else
-  dump.missing_peer("fmt");
-#endif
-}
+// ---- the rows ----
 
-struct AlarmRow {
-  char joined[512] = "";
-  std::string first = "DOOR OPEN|door of chamber 2 open", second = "PUMP|pump stopped";
+// One text, and what is sought in it.
+struct Case {
+  std::string text, from, to, input;
 };
 
-std::string join_by_append(const AlarmRow& row) {
-  const std::size_t a = row.first.find('|'), b = row.second.find('|');
-  std::string joined = row.first.substr(0, a);
-  joined.append(" ").append(row.second, 0, b).append("|").append(row.first, a + 1);
-  return joined.append(" ").append(row.second, b + 1);
-}
-
-void add_alarm_row() {
-  AlarmRow& alarm = keep(AlarmRow());
-  row("rewrite", "Zeph_Strcat_Alarm_Append_Text", "two texts", alarm.first.size())
-      .zeph([&] {
-        std::memcpy(alarm.joined, alarm.first.c_str(), alarm.first.size() + 1);
-        Orbane::Zeph_Strcat_Alarm_Append_Text(alarm.joined, alarm.second.c_str());
-        return std::string_view(alarm.joined);
+void add_byte_replace_row(const Case& c) {
+  const ByteCopy copy =
+      byte_copy(c.text, c.text.size() * std::max<std::size_t>(c.to.size(), 1) + 1);
+  const char* const from = c.from.c_str();
+  const char* const to = c.to.c_str();
+  auto& added = row("rewrite", "Zeph_Replace byte text", c.input, c.text.size());
+  added
+      .zeph([copy, from, to] {
+        char* const text = copy.fresh();
+        Orbane::Zeph_Replace(text, from, to);
+        return static_cast<const char*>(text);
       })
-      .peer("append loop", [&] { return join_by_append(alarm); });
+      .peer("strstr, memcpy",
+            [copy, from, to] { return replace_by_strstr(copy.source, from, to, copy.room); })
+      .peer("find + append", [&c] { return replace_by_append(c.text, c.from, c.to); });
+#if ZEPH_BENCH_HAS_ABSEIL
+  added.peer("absl::StrReplaceAll", [&c] { return absl::StrReplaceAll(c.text, {{c.from, c.to}}); });
+#else
+  added.missing_peer("abseil");
+#endif
 }
 
-void add_name_row(const char* name) {
-  static const std::regex standard("[Ss]([0-9]+)[Ff]([0-9]+)");
-  auto& names = row("rewrite", "Zeph_Check_SxxFxx", name, std::strlen(name));
-  names.zeph([name] {
-    unsigned char stream = 0, function = 0;
-    return Orbane::Zeph_Check_SxxFxx(name, &stream, &function) ? stream * 256 + function : -1;
+void add_string_replace_row(const Case& c) {
+  StringCopy& copy = string_copy(c.text);
+  auto& added = row("rewrite", "Zeph_Replace String", c.input, c.text.size());
+  added.outputs(changed(copy))
+      .zeph(on_a_copy(copy, [&c](std::string& text) { Orbane::Zeph_Replace(text, c.from, c.to); }))
+      .peer("find + append",
+            [&c, &copy] { return copy.room = replace_by_append(c.text, c.from, c.to), 0; });
+#if ZEPH_BENCH_HAS_ABSEIL
+  added.peer("absl::StrReplaceAll", [&c, &copy] {
+    return copy.room = absl::StrReplaceAll(c.text, {{c.from, c.to}}), 0;
   });
-#if ZEPH_BENCH_HAS_RE2
-  static const re2::RE2 pattern("[Ss]([0-9]+)[Ff]([0-9]+)");
-  names.peer("RE2", [name] {
-    int stream = 0, function = 0;
-    return re2::RE2::FullMatch(name, pattern, &stream, &function) ? stream * 256 + function : -1;
-  });
+#else
+  added.missing_peer("abseil");
 #endif
-  names.requests([] { return heap_requests(1, 8) + heap_requests(1, 8); });
-  names.peer("std::regex", [name] {
-    std::cmatch match;
-    if (!std::regex_match(name, match, standard)) return -1;
-    return std::stoi(match[1]) * 256 + std::stoi(match[2]);
-  });
+#if ZEPH_BENCH_HAS_BOOST
+  added.peer("boost::replace_all",
+             on_a_copy(copy, [&c](std::string& text) { boost::replace_all(text, c.from, c.to); }));
+#else
+  added.missing_peer("Boost");
+#endif
+}
+
+// `nested`: the removals make new occurrences.
+void add_remove_rows(const Case& c, bool nested) {
+  const ByteCopy bytes = byte_copy(c.text);
+  const char* const pattern = c.from.c_str();
+  const char* const reason = "the stack is written for patterns of two bytes";
+  auto& in_bytes = row("rewrite", "Zeph_Remove byte text", c.input, c.text.size());
+  in_bytes.reason(reason)
+      .outputs(changed(bytes))
+      .zeph(on_a_copy(bytes, [pattern](char* text) { Orbane::Zeph_Remove(text, pattern); }))
+      .peer("stack of bytes",
+            on_a_copy(bytes, [&c](char* text) { remove_in_place(text, c.from); }));
+  StringCopy& copy = string_copy(c.text);
+  auto& strings = row("rewrite", "Zeph_Remove String", c.input, c.text.size());
+  strings.reason(reason)
+      .outputs(changed(copy))
+      .zeph(on_a_copy(copy, [&c](std::string& text) { Orbane::Zeph_Remove(text, c.from); }))
+      .peer("stack of bytes",
+            [&c, &copy] { return copy.room = remove_by_stack(c.text, c.from), 0; });
+  if (nested) return;
+  in_bytes.peer("strstr, memmove",
+                on_a_copy(bytes, [pattern](char* text) { remove_by_strstr(text, pattern); }));
+  strings.peer("find, erase",
+               on_a_copy(copy, [&c](std::string& text) { remove_by_find(text, c.from); }));
+}
+
+void add_byte_rows(const std::string& text, const std::string& input) {
+  const ByteCopy bytes = byte_copy(text);
+  StringCopy& copy = string_copy(text);
+  row("rewrite", "Zeph_Replace a byte, byte text", input, text.size())
+      .outputs(changed(bytes))
+      .zeph(on_a_copy(bytes, [](char* work) { Orbane::Zeph_Replace(work, 'b', 'c'); }))
+      .peer("strlen, std::replace", on_a_copy(bytes, [](char* work) {
+              std::replace(work, work + std::strlen(work), 'b', 'c');
+            }));
+  row("rewrite", "Zeph_Replace a byte", input, text.size())
+      .outputs(changed(copy))
+      .zeph(on_a_copy(copy, [](std::string& work) { Orbane::Zeph_Replace(work, 'b', 'c'); }))
+      .peer("std::replace", on_a_copy(copy, [](std::string& work) {
+              std::replace(work.begin(), work.end(), 'b', 'c');
+            }));
+  row("rewrite", "Zeph_Remove a byte", input, text.size())
+      .outputs(changed(copy))
+      .zeph(on_a_copy(copy, [](std::string& work) { Orbane::Zeph_Remove(work, 'b'); }))
+      .peer("std::remove", on_a_copy(copy, [](std::string& work) {
+              work.erase(std::remove(work.begin(), work.end(), 'b'), work.end());
+            }));
+}
+
+std::string prose(std::size_t size) {
+  return repeat("Chamber Pressure 0.75 mTorr; ", size);
 }
 
 }  // namespace
 
 void register_rewrite_rows() {
-  for (const std::size_t size : {64U, 1024U, 1048576U}) add_replace_rows(size);
-  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) add_dump_row(size);
-  add_alarm_row();
-  add_name_row("S6F11");
-  add_name_row("S127F255");
+  for (const std::size_t size : {8U, 32U, 64U, 1024U, 1048576U}) {
+    const std::string name = size_text(size), pairs = repeat("ab", size);
+    const Case& shorter = keep(Case{pairs, "ab", "c", name + " abab.., ab -> c"});
+    add_byte_replace_row(shorter);
+    add_string_replace_row(shorter);
+    const std::string nested = std::string(size / 2, 'a') + std::string(size / 2, 'b');
+    add_remove_rows(keep(Case{nested, "ab", "", name + " aa..bb.., ab"}), true);
+    add_byte_rows(pairs, name + " abab..");
+  }
+  for (const std::size_t size : {64U, 4096U}) {
+    const std::string name = size_text(size), text = prose(size);
+    const Case& longer = keep(Case{text, "ss", "<s>", name + " of prose, ss -> <s>"});
+    add_byte_replace_row(longer);
+    add_string_replace_row(longer);
+    const Case& none = keep(Case{text, "#!", "-", name + " of prose, none"});
+    add_byte_replace_row(none);
+    add_string_replace_row(none);
+    add_remove_rows(none, false);
+  }
 }
 
 }  // namespace zeph_bench
