@@ -39,7 +39,10 @@ struct Timing {
   Kind kind;
   std::string who;      // "Zeph", the peer's name, or that of the limit
   std::string differs;  // why a peer's answer is another one by nature
+  std::string name;     // by which the measurement is known
+  std::function<void(benchmark::State&)> loop;
   std::vector<double> rounds;
+  benchmark::IterationCount calls = 0;  // in a round, as the first one has found
 };
 
 // An answer as a text, for the comparison and for the message about a wrong one.
@@ -54,8 +57,7 @@ std::string answer_text(const std::vector<std::string>& answer);
 
 class Row {
  public:
-  Row(std::size_t number, std::string family, std::string operation, std::string input,
-      std::size_t bytes);
+  Row(std::string family, std::string operation, std::string input, std::size_t bytes);
 
   // How the outputs of the operations are read, if their result alone is not the answer. It should
   // also spoil the outputs, so that a peer that writes nothing is found out. Stands before zeph().
@@ -138,19 +140,18 @@ class Row {
 
   template <typename Operation>
   Row& time(Kind kind, const char* who, Operation operation, const char* differs = nullptr) {
-    const auto loop = [operation](benchmark::State& state) {
+    add_timing(kind, who, differs, [operation](benchmark::State& state) {
       Operation call = operation;  // a local, so that the loop has what it refers to in registers
       benchmark::DoNotOptimize(call());  // whoever comes first would else meet the cold cache
       for (auto _ : state) benchmark::DoNotOptimize(call());
-    };
-    benchmark::RegisterBenchmark(add_timing(kind, who, differs).c_str(), loop);
+    });
     return *this;
   }
 
-  std::string add_timing(Kind kind, const char* who, const char* differs);
+  void add_timing(Kind kind, const char* who, const char* differs,
+                  std::function<void(benchmark::State&)> loop);
   void check(const char* who, const std::string& answer, const char* differs);
 
-  std::size_t number_;  // from 1 on
   std::string family_, operation_, input_;
   std::size_t bytes_;
   std::function<std::string()> outputs_;
