@@ -42,7 +42,7 @@ struct Timing {
   std::string name;     // by which the measurement is known
   std::function<void(benchmark::State&)> loop;
   std::vector<double> rounds;
-  benchmark::IterationCount calls = 0;  // in a round, as the first one has found
+  benchmark::IterationCount calls = 0;  // in a round: the most that one has found
 };
 
 // An answer as a text, for the comparison and for the message about a wrong one.

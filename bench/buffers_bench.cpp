@@ -136,6 +136,7 @@ void add_prepare_rows(std::size_t size) {
   char*& held = keep(static_cast<char*>(nullptr));
   row("buffers", "Zeph_Prepare_Mem, held", size_text(size), 0)
       .zeph([&held, wanted] { return Orbane::Zeph_Prepare_Mem(&held, wanted); })
+      .reason("a call into the shared object, and one to the service that the peer calls alone")
       .peer("malloc_usable_size", [&held, size] { return prepare(held, size); });
   char*& block = keep(static_cast<char*>(nullptr));
   row("buffers", "Zeph_Prepare_Mem, ..Release_Mem", size_text(size), 0)
@@ -183,7 +184,7 @@ void add_text_row(std::size_t size) {
 void add_number_rows(int whole, double real, const std::string& input) {
   char* const room = keep(Places()).room(room_size);
   auto& integers = copy_row("Zeph_Copy_Stack, int", input, sizeof whole, whole, room);
-  integers
+  integers.reason("the digits are made beside the buffer, as they may have to be cut")
       .peer("snprintf %d",
             [room, whole] { return std::snprintf(room, room_size, "%d", whole) >= 0; })
       .peer("std::to_chars", [room, whole] { return copy_number(room, room_size, whole); });

@@ -134,10 +134,13 @@ void add_string_dump_rows(std::size_t size) {
   const auto view = [&d] { return std::string_view(d.text); };
   const auto counted = [&d] { return std::string_view(d.text, static_cast<std::size_t>(d.size)); };
   auto& texts = row("dump", "Zeph_To_Ascii of a byte text", size_text(size), size);
+  const char* const reason = "bytes of one digit are counted first, for a result of just its size";
+  texts.reason(reason);
   texts.zeph([&d] { return Orbane::Zeph_To_Ascii(d.text); }).peer("strlen, byte loop", [view] {
     return dump_by_short_digits(view());
   });
   auto& bytes = row("dump", "Zeph_To_Ascii of bytes", size_text(size), size);
+  bytes.reason(reason);
   bytes.zeph([&d] { return Orbane::Zeph_To_Ascii(d.text, d.size); }).peer("byte loop", [counted] {
     return dump_by_short_digits(counted());
   });
@@ -171,6 +174,7 @@ void add_name_row(const char* text) {
   const char* const name = keep(Places()).text(text);
   static const std::regex standard("[Ss]([0-9]+)[Ff]([0-9]+)");
   auto& names = row("dump", "Zeph_Check_SxxFxx", text, std::strlen(name));
+  names.reason("a number may be hexadecimal and is copied, and the letters fold by the locale");
   names.zeph([name] {
     unsigned char stream = 0, function = 0;
     return Orbane::Zeph_Check_SxxFxx(name, &stream, &function) ? stream * 256 + function : -1;

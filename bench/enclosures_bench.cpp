@@ -109,6 +109,7 @@ void add_byte_rows(const std::string& quoted, const std::string& bracketed,
   row("enclosures", "Zeph_String_Check to a buffer", input, quoted.size())
       .outputs([to] { return take(to.room); })
       .zeph([to, limit] { return Zeph_String_Check(to.source, limit, to.room); })
+      .reason("the end is looked for within the limit, as nothing behind it is read")
       .peer("tests, strlen, memcpy", [to] { return unquote_to(to.source, to.size, to.room); });
 }
 
@@ -137,6 +138,7 @@ void add_string_rows(const std::string& quoted, const std::string& bracketed,
   row("enclosures", "Zeph_String_Check to a String", input, quoted.size())
       .outputs([&to] { return std::exchange(to.room, "#"); })
       .zeph([&to] { return Zeph_String_Check(to.source, to.room); })
+      .reason("the text is assigned whole, and its ends are taken off then")
       .peer("tests, assign", [&to] { return unquote_to(to.source, to.room); });
 }
 

@@ -90,6 +90,9 @@ auto stored(const std::vector<Text>& texts, Read read) {
   });
 }
 
+const char* const slice_reason =
+    "the slice is copied and ends at a zero byte; std::from_chars reads it where it stands";
+
 void add_byte_rows(const Batch& batch, const std::string& input) {
   const auto& texts = batch.bytes;
   row("number", "Zeph_To_Int", input, batch.size)
@@ -102,8 +105,10 @@ void add_byte_rows(const Batch& batch, const std::string& input) {
                    [](ByteText t, int* value) { Orbane::Zeph_To_Int(t.at, value, 0, t.size); }))
       .peer("memcpy, strtol", sum_of(texts, strtol_of_slice))
       .peer("std::from_chars", sum_of(texts, from_chars_of_slice))
+      .reason(slice_reason)
       .requests(requests_of(batch));
   row("number", "Zeph_Ext_Int_From_Str", input, batch.size)
+      .reason("white space and a '+' in front are taken, too, which std::from_chars refuses")
       .zeph(sum_of(texts,
                    [](ByteText t) { return 0L + Orbane::Zeph_Ext_Int_From_Str(t.at, 0, t.size); }))
       .peer("memcpy, strtol", sum_of(texts, strtol_of_slice))
@@ -163,6 +168,7 @@ void add_strict_byte_rows(const Batch& batch, const std::string& input) {
           "std::from_chars, tests",
           sum_of(texts,
                  [](ByteText t) { return bounded_by_from_chars(t.at, t.at + t.size, low, high); }))
+      .reason(slice_reason)
       .requests(requests_of(batch));
 }
 
@@ -184,6 +190,7 @@ void add_strict_string_rows(const Batch& batch, const std::string& input) {
       .zeph(passed(texts, [size_of](const String& t,
                                     int* v) { return Orbane::Zeph_To_Int(t, v, 0, size_of(t)); }))
       .peer("std::from_chars, tests", sum_of(texts, from_chars_of))
+      .reason(slice_reason)
       .requests(requests_of(batch));
   row("number", "Zeph_To_Int String, bounds, slice", input, batch.size)
       .zeph(passed(texts,
@@ -191,6 +198,7 @@ void add_strict_string_rows(const Batch& batch, const std::string& input) {
                      return Orbane::Zeph_To_Int(t, low, high, v, 0, size_of(t));
                    }))
       .peer("std::from_chars, tests", sum_of(texts, from_chars_of))
+      .reason(slice_reason)
       .requests(requests_of(batch));
 }
 

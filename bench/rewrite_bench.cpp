@@ -104,7 +104,7 @@ void add_byte_replace_row(const Case& c) {
   const char* const from = c.from.c_str();
   const char* const to = c.to.c_str();
   auto& added = row("rewrite", "Zeph_Replace byte text", c.input, c.text.size());
-  added
+  added.reason("after a change the bytes around it are searched again, for what it has formed")
       .zeph([copy, from, to] {
         char* const text = copy.fresh();
         Orbane::Zeph_Replace(text, from, to);
@@ -168,21 +168,26 @@ void add_remove_rows(const Case& c, bool nested) {
 }
 
 void add_byte_rows(const std::string& text, const std::string& input) {
+  const char* const reason =
+      "a call asks where the first one stands, which short texts do not repay";
   const ByteCopy bytes = byte_copy(text);
   StringCopy& copy = string_copy(text);
   row("rewrite", "Zeph_Replace a byte, byte text", input, text.size())
+      .reason(reason)
       .outputs(changed(bytes))
       .zeph(on_a_copy(bytes, [](char* work) { Orbane::Zeph_Replace(work, 'b', 'c'); }))
       .peer("strlen, std::replace", on_a_copy(bytes, [](char* work) {
               std::replace(work, work + std::strlen(work), 'b', 'c');
             }));
   row("rewrite", "Zeph_Replace a byte", input, text.size())
+      .reason(reason)
       .outputs(changed(copy))
       .zeph(on_a_copy(copy, [](std::string& work) { Orbane::Zeph_Replace(work, 'b', 'c'); }))
       .peer("std::replace", on_a_copy(copy, [](std::string& work) {
               std::replace(work.begin(), work.end(), 'b', 'c');
             }));
   row("rewrite", "Zeph_Remove a byte", input, text.size())
+      .reason(reason)
       .outputs(changed(copy))
       .zeph(on_a_copy(copy, [](std::string& work) { Orbane::Zeph_Remove(work, 'b'); }))
       .peer("std::remove", on_a_copy(copy, [](std::string& work) {

@@ -31,6 +31,12 @@ struct Search {
         sought(places.text(pattern)) {}
 };
 
+const char* const service_reason =
+    "the same service does it, behind a call into the shared object; or the C library has wider "
+    "instructions";
+const char* const folded_reason =
+    "a call more into the shared library, and one that asks for the locale";
+
 std::string prose(std::size_t size) {
   std::string text;
   while (text.size() < size) text += "Chamber Pressure 0.75 mTorr; ";
@@ -55,14 +61,14 @@ int find_by_view(const char* text, const char* pattern) {
 void add_rows(Search search, const std::string& input) {
   Search& s = keep(std::move(search));
   row("search", "Zeph_Find_Position", input, s.text.size())
-      .reason("the same service does it, behind a call into the shared object")
+      .reason(service_reason)
       .zeph([&s] { return Orbane::Zeph_Find_Position(s.bytes, s.sought); })
       .peer("strstr", [&s] { return place(s.bytes, strstr(s.bytes, s.sought)); })
       .peer("string_view::find", [&s] { return find_by_view(s.bytes, s.sought); })
       .peer("memmem", [&s] { return find_by_memmem(s.bytes, s.sought); })
       .limit("memchr", [&s] { return std::memchr(s.bytes, '\0', s.text.size() + 1) != nullptr; });
   auto& folded = row("search", "Zeph_Find_Position_L", input, s.text.size());
-  folded.reason("a call more into the shared library, and one that asks for the locale");
+  folded.reason(folded_reason);
   folded.zeph([&s] { return Orbane::Zeph_Find_Position_L(s.bytes, s.sought); })
       .peer("strcasestr", [&s] { return place(s.bytes, strcasestr(s.bytes, s.sought)); })
       .limit("memchr", [&s] { return std::memchr(s.bytes, '\0', s.text.size() + 1) != nullptr; });
@@ -81,13 +87,13 @@ void add_rows(Search search, const std::string& input) {
 void add_contains_rows(Search search, const std::string& input) {
   Search& s = keep(std::move(search));
   row("search", "Zeph_Find_SubString", input, s.text.size())
-      .reason("the same service does it, behind a call into the shared object")
+      .reason(service_reason)
       .zeph([&s] { return Orbane::Zeph_Find_SubString(s.bytes, s.sought); })
       .peer("strstr", [&s] { return strstr(s.bytes, s.sought) != nullptr; })
       .peer("string_view::find",
             [&s] { return std::string_view(s.bytes).find(s.sought) != std::string_view::npos; });
   row("search", "Zeph_Find_SubString_L", input, s.text.size())
-      .reason("a call more into the shared library, and one that asks for the locale")
+      .reason(folded_reason)
       .zeph([&s] { return Orbane::Zeph_Find_SubString_L(s.bytes, s.sought); })
       .peer("strcasestr", [&s] { return strcasestr(s.bytes, s.sought) != nullptr; });
 }
@@ -138,11 +144,13 @@ void add_folded_range_rows(Search search, const std::string& input) {
   const std::size_t end = s.text.size() - 1;
   const int stop = static_cast<int>(end);
   row("search", "Zeph_Find_Position_L, a range", input, s.text.size())
+      .reason(folded_reason)
       .zeph([&s, stop] { return Orbane::Zeph_Find_Position_L(s.bytes, 1, stop, s.sought); })
       .peer("strncasecmp loop",
             [&s, end] { return find_folded_in_slice(s.bytes, 1, end, s.sought); })
       .peer("std::search", [&s, end] { return search_folded_in_slice(s.bytes, 1, end, s.sought); });
   row("search", "Zeph_Find_SubString_L, a range", input, s.text.size())
+      .reason(folded_reason)
       .zeph([&s, stop] { return Orbane::Zeph_Find_SubString_L(s.bytes, 1, stop, s.sought); })
       .peer("strncasecmp loop",
             [&s, end] { return find_folded_in_slice(s.bytes, 1, end, s.sought) >= 0; })

@@ -137,17 +137,20 @@ def family_tables(rows):
 
 
 def behind_lines(rows):
-    """The rows behind, together where they have the reason in common."""
-    reasons = {}
+    """The operations behind, together where they have the reason in common; the rows stand in the tables."""
+    reasons, counts = {}, {}
     for row in rows:
+        counts[row.operation] = counts.get(row.operation, 0) + 1
         if row.best()[0] < DRAW:
-            reasons.setdefault(row.reason, []).append((row.best()[0], row))
+            reasons.setdefault(row.reason, {}).setdefault(row.operation, []).append(row.best()[0])
     lines = []
-    for why, found in sorted(reasons.items(), key=lambda item: min(ratio for ratio, _ in item[1])):
-        found.sort(key=lambda item: item[0])
-        lines.append('- %s: %s.' % (why[0].upper() + why[1:], '; '.join(
-            '`%s`, %s: %.2f' % (row.operation, row.input, ratio) for ratio, row in found)))
-    return lines
+    for why, found in sorted(reasons.items(), key=lambda item: min(map(min, item[1].values()))):
+        lines += ['', '%s:' % (why[0].upper() + why[1:]), '']
+        cells = [('`%s`' % operation, '%d of %d' % (len(ratios), counts[operation]), '%.2f' % min(ratios),
+                  '%.2f' % max(ratios))
+                 for operation, ratios in sorted(found.items(), key=lambda item: min(item[1]))]
+        lines += table(('operation', 'rows behind', 'from', 'to'), cells)
+    return lines[1:]
 
 
 def differing_lines(rows):
@@ -211,7 +214,7 @@ text { fill: #f0f6fc } .small { fill: #9198a1 } .dot { fill: #4493f8 } .mean { s
 def chart(rows):
     """Each row a dot at its ratio, each family a line of them with its geometric mean."""
     families = sorted({row.family for row in rows})
-    left, width, step, top = 110, 620, 30, 50
+    left, width, step, top = 110, 620, 32, 50
     low, high = math.log2(0.25), math.log2(64)
 
     def across(ratio):
@@ -237,9 +240,11 @@ def chart(rows):
         ratios = [row.best()[0] for row in rows if row.family == family]
         mean = geometric_mean(ratios)
         parts.append('<text x="%d" y="%.1f" text-anchor="end">%s</text>' % (left - 12, y + 4, family))
-        parts += ['<circle class="dot" cx="%.1f" cy="%.1f" r="4"/>' % (across(ratio), y) for ratio in ratios]
+        # Neighbours stand in three lanes, so that a crowd can be counted.
+        parts += ['<circle class="dot" cx="%.1f" cy="%.1f" r="3"/>' % (across(ratio), y + 7 * (i % 3 - 1))
+                  for i, ratio in enumerate(sorted(ratios))]
         parts.append('<line class="mean" x1="%.1f" x2="%.1f" y1="%.1f" y2="%.1f"/>' %
-                     (across(mean), across(mean), y - 9, y + 9))
+                     (across(mean), across(mean), y - 12, y + 12))
         parts.append('<text x="%d" y="%.1f">%.2f</text>' % (left + width + 12, y + 4, mean))
     return '\n'.join(parts + ['</svg>', ''])
 
