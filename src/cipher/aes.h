@@ -28,7 +28,7 @@ class AesContext {
   unsigned char w[240];   // the key of round r is the 16 bytes from 16 * r; zero behind the last
 
   // Fills `w` from `key`, `Nk` and `Nr`. Each word is made in its place, so that no byte of the key
-  // is left anywhere else. `substitute` puts the S-box's bytes in place of the four of a word.
+  // is left anywhere else. `substitute` gives the S-box's bytes for the four of a word.
   template <typename Substitute>
   constexpr void ExpandKey(Substitute substitute);
 
@@ -55,27 +55,40 @@ inline void DecryptBlock(const unsigned char* in, unsigned char* out) {
   DecryptBlocks(in, out, 1);
 }
 
+// The four bytes of a word as one number, the first one lowest: the compiler makes one load or
+// store of them where the processor has them in that order.
+constexpr std::uint32_t key_word(const unsigned char* bytes) {
+  std::uint32_t word = 0;
+  for (int k = 0; k < 4; ++k) word |= static_cast<std::uint32_t>(bytes[k]) << 8 * k;
+  return word;
+}
+
+constexpr void put_key_word(unsigned char* bytes, std::uint32_t word) {
+  for (int k = 0; k < 4; ++k) bytes[k] = static_cast<unsigned char>(word >> 8 * k);
+}
+
 template <typename Substitute>
 constexpr void AesContext::ExpandKey(Substitute substitute) {
   for (unsigned char& byte : w) byte = 0;
   for (int i = 0; i < 4 * Nk; ++i) w[i] = key[i];
+  std::uint32_t word = key_word(w + 4 * (Nk - 1));
+  int place = 0, turn = 1;  // of the word among Nk of them, and the number of these
   for (int i = Nk; i < 4 * Nr + 4; ++i) {
-    unsigned char* const word = w + 4 * i;
-    const unsigned char* const before = word - 4;
-    const bool turns = i % Nk == 0;
-    const bool substitutes = turns || (Nk > 6 && i % Nk == 4);
-    for (int k = 0; k < 4; ++k) word[k] = before[turns ? (k + 1) % 4 : k];
-    if (substitutes) substitute(word);
-    for (int k = 0; k < 4; ++k) {
-      if (turns) word[k] = static_cast<unsigned char>(word[k] ^ Rcon[i / Nk][k]);
-      word[k] = static_cast<unsigned char>(word[k] ^ word[k - 4 * Nk]);
-    }
+    if (place == 0) word = substitute(word >> 8 | word << 24) ^ Rcon[turn++];
+    if (place == 4 && Nk > 6) word = substitute(word);
+    word ^= key_word(w + 4 * (i - Nk));
+    put_key_word(w + 4 * i, word);
+    if (++place == Nk) place = 0;
   }
 }
 
 constexpr void AesContext::KeyExpansion() {
-  ExpandKey([](unsigned char* word) {
-    for (int k = 0; k < 4; ++k) word[k] = sbox[word[k]];
+  ExpandKey([](std::uint32_t word) {
+    std::uint32_t substituted = 0;
+    for (int k = 0; k < 4; ++k) {
+      substituted |= static_cast<std::uint32_t>(sbox[word >> 8 * k & 0xFF]) << 8 * k;
+    }
+    return substituted;
   });
 }
 

@@ -44,9 +44,10 @@ constexpr Sbox invert(const Sbox& box) {
 inline constexpr Sbox sbox = make_sbox();
 inline constexpr Sbox inverse_sbox = invert(sbox);
 
-// Indexed by the number of the word in the key schedule divided by Nk. Row 0 is not used.
-inline constexpr unsigned char Rcon[11][4] = {
-    {0x00}, {0x01}, {0x02}, {0x04}, {0x08}, {0x10}, {0x20}, {0x40}, {0x80}, {0x1b}, {0x36},
+// Indexed by the number of the word in the key schedule divided by Nk: the first byte of the word,
+// whose others are 0. The first one is not used.
+inline constexpr unsigned char Rcon[11] = {
+    0x00, 0x01, 0x02, 0x04, 0x08, 0x10, 0x20, 0x40, 0x80, 0x1b, 0x36,
 };
 
 }  // namespace zeph

@@ -2,8 +2,6 @@
 // several blocks are in flight at once.
 #include "cipher/aes_x86.h"
 
-#include <cstring>
-
 #include "cipher/aes_paths.h"
 
 namespace zeph {
@@ -107,11 +105,9 @@ template <typename Direction>
 
 // By the instruction that is made for it, of which the first word of the result is the S-box's of
 // the second word: no load depends on the key.
-[[gnu::target("aes")]] void substitute(unsigned char* word) {
-  std::int32_t bytes;
-  std::memcpy(&bytes, word, sizeof bytes);
-  bytes = _mm_cvtsi128_si32(_mm_aeskeygenassist_si128(_mm_set1_epi32(bytes), 0));
-  std::memcpy(word, &bytes, sizeof bytes);
+[[gnu::target("aes")]] std::uint32_t substitute(std::uint32_t word) {
+  const __m128i words = _mm_set1_epi32(static_cast<int>(word));
+  return static_cast<std::uint32_t>(_mm_cvtsi128_si32(_mm_aeskeygenassist_si128(words, 0)));
 }
 
 }  // namespace

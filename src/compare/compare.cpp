@@ -6,6 +6,7 @@
 
 #include "frame/locale_fold.h"
 #include "scan/ascii_fold.h"
+#include "scan/byte_mask.h"
 #include "scan/same_bytes.h"
 #include "zeph.h"
 
@@ -42,12 +43,13 @@ bool equal_folded_prefix(const char* a, const char* b, std::size_t limit) {
 }
 
 // Where the first bytes of two Strings did not settle it. Long ones of one size are compared as a
-// whole first; those that differ so are equal all the same if a zero byte ends both before.
+// whole; short ones were. Those that differ are equal all the same if a zero byte ends both before.
 template <typename EqualTexts>
 [[gnu::noinline]] bool equal_far(const std::string& a, const std::string& b, std::size_t size_a,
                                  std::size_t size_b, EqualTexts equal_texts) {
-  if (size_a == size_b && size_a > short_range && std::memcmp(a.data(), b.data(), size_a) == 0) {
-    return true;
+  if (size_a == size_b) {
+    if (size_a <= short_range && byte_mask(a.data(), size_a, '\0') == 0) return false;
+    if (size_a > short_range && std::memcmp(a.data(), b.data(), size_a) == 0) return true;
   }
   return equal_texts(a.c_str(), b.c_str());
 }

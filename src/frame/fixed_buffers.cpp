@@ -28,7 +28,12 @@ bool Zeph_Copy_Stack(char* target, const char* source, int size) {
 }
 
 bool Zeph_Copy_Stack(char* target, int value, int size) {
-  char digits[sizeof "-2147483648"] = "";
+  constexpr int longest = sizeof "-2147483648";
+  if (size < 0 || size >= longest) {
+    *std::to_chars(target, target + longest - 1, value).ptr = '\0';
+    return true;
+  }
+  char digits[longest] = "";
   const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
   zeph::put_cut(target, digits, static_cast<std::size_t>(end - digits), size);
   return true;

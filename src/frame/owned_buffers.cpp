@@ -137,8 +137,7 @@ void Zeph_Release_Mem(char** buffer) {
 }
 
 char* Zeph_Set_Mem(char* block, int value, unsigned int count) {
-  if (count > 0) std::memset(block, value, count);
-  return block;
+  return count > 0 ? static_cast<char*>(std::memset(block, value, count)) : block;
 }
 
 }  // namespace Orbane
