@@ -132,7 +132,10 @@ void add_format_row(const char* format, int room, Values... values) {
 #if ZEPH_BENCH_HAS_ABSEIL
   printed.peer("absl::FormatUntyped", [format, room, values...] {
     std::string text;
-    absl::FormatUntyped(&text, absl::UntypedFormatSpec(format), {absl::FormatArg(values)...});
+    if (!absl::FormatUntyped(&text, absl::UntypedFormatSpec(format),
+                             {absl::FormatArg(values)...})) {
+      text.clear();
+    }
     if (text.size() >= static_cast<std::size_t>(room)) {
       text.resize(static_cast<std::size_t>(room) - 1);
     }

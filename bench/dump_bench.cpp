@@ -98,8 +98,8 @@ void add_dump_row(std::size_t size) {
   dump.peer("OPENSSL_buf2hexstr_ex", [&d] {
     std::size_t length = 0;
     OPENSSL_buf2hexstr_ex(d.room, 3 * d.bytes.size() + 1, &length,
-                          reinterpret_cast<const unsigned char*>(d.bytes.data()),
-                          static_cast<long>(d.bytes.size()), ' ');
+                          reinterpret_cast<const unsigned char*>(d.bytes.data()), d.bytes.size(),
+                          ' ');
     d.shown = d.room;
     return 0;
   });
