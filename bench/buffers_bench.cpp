@@ -75,9 +75,11 @@ void add_null_rows(const char* text, const std::string& input) {
     char* text;
   };
   Held& held = keep(Held{text ? keep(Places()).text(text) : nullptr});
-  row("buffers", "Zeph_Get_Mem_Str", input, 0)
-      .zeph([&held] { return Orbane::Zeph_Get_Mem_Str(held.text); })
-      .peer("a test", [&held] { return held.text ? held.text : ""; });
+  if (!text || input == size_text(64)) {  // it reads no text: one does
+    row("buffers", "Zeph_Get_Mem_Str", input, 0)
+        .zeph([&held] { return Orbane::Zeph_Get_Mem_Str(held.text); })
+        .peer("a test", [&held] { return held.text ? held.text : ""; });
+  }
   row("buffers", "Zeph_Get_Mem_Size", input, 0)
       .zeph([&held] { return Orbane::Zeph_Get_Mem_Size(held.text); })
       .peer("a test, strlen",
