@@ -14,9 +14,10 @@ check_cxx_source_compiles("
   [[gnu::target(\"avx2\")]] __m256i sum(__m256i a, __m256i b) { return _mm256_add_epi8(a, b); }
   int main() { return __builtin_cpu_supports(\"avx2\") ? 0 : 1; }" ZEPH_FOUND_AVX2)
 
+# The masks are 64-bit numbers.
 check_cxx_source_compiles("
   #include <immintrin.h>
-  #ifdef _WIN32
+  #if !defined(__x86_64__) || defined(_WIN32)
   #error none
   #endif
   [[gnu::target(\"avx512bw\")]] __m512i load(const char* a) { return _mm512_maskz_loadu_epi8(1, a); }
