@@ -1,10 +1,7 @@
 // UTF-8 and code page 936.
-#include <gtest/gtest.h>
-
 #include "codepage/codepage_model.h"
 #include "codepage/parts_table.h"
 #include "rules.h"
-#include "zeph.h"
 
 namespace zeph_test {
 namespace {
@@ -44,8 +41,6 @@ void round_trips(Draw& draw) {
 
 }  // namespace
 
-Rules codepages_rules() {
-  return {{"any bytes", any_bytes}, {"mixtures", mixtures}, {"round trips", round_trips}};
-}
+const Family codepages_family{"codepages", {any_bytes, mixtures, round_trips}};
 
 }  // namespace zeph_test

@@ -1,27 +1,16 @@
 // Hexadecimal dumps and message names.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstdio>
-#include <string>
-
 #include "number/number_harness.h"
 #include "rules.h"
-#include "support/fold.h"
-#include "support/guarded_buffer.h"
-#include "zeph.h"
 
 using namespace Orbane;
 
 namespace zeph_test {
 namespace {
 
-std::string printed(const char* format, const std::string& bytes) {
+std::string dumped(const char* format, const std::string& bytes) {
   std::string dump;
   for (const char byte : bytes) {
-    char number[8];
-    std::snprintf(number, sizeof number, format, static_cast<unsigned char>(byte));
-    dump += dump.empty() ? number : std::string(" ") + number;
+    dump += (dump.empty() ? "" : " ") + printed(format, static_cast<unsigned char>(byte));
   }
   return dump;
 }
@@ -32,13 +21,13 @@ void dumps(Draw& draw) {
   const GuardedText source(bytes, End::bare), ended(text);
   const auto count = static_cast<int>(bytes.size());
   char* block = nullptr;
-  EXPECT_EQ(Zeph_To_Ascii(source.data(), count), printed("%x", bytes));
-  EXPECT_EQ(Zeph_To_Ascii(ended.data()), printed("%x", text));
+  EXPECT_EQ(Zeph_To_Ascii(source.data(), count), dumped("%x", bytes));
+  EXPECT_EQ(Zeph_To_Ascii(ended.data()), dumped("%x", text));
   EXPECT_EQ(Zeph_To_Ascii(source.data(), count, &block), block);
-  EXPECT_EQ(block, printed("%02X", bytes));
+  EXPECT_EQ(block, dumped("%02X", bytes));
   char* const kept = block;
   EXPECT_EQ(Zeph_To_Ascii(ended.data(), &block), kept) << "a block with the room is kept";
-  EXPECT_EQ(block, printed("%02X", text));
+  EXPECT_EQ(block, dumped("%02X", text));
   EXPECT_TRUE(text.empty() || block[3 * text.size()] == '\0') << "the room of the last blank";
   const int none = std::min(draw.any_int(), 0);
   EXPECT_EQ(Zeph_To_Ascii(source.data(), none), "");
@@ -74,8 +63,6 @@ void message_names(Draw& draw) {
 
 }  // namespace
 
-Rules dumps_rules() {
-  return {{"dumps", dumps}, {"message names", message_names}};
-}
+const Family dumps_family{"dumps", {dumps, message_names}};
 
 }  // namespace zeph_test

@@ -1,34 +1,70 @@
 // Fields from the left and the right, fields by index, lists.
-#include <algorithm>
+#include <deque>
 
-#include "fields/split_harness.h"
 #include "rules.h"
-#include "support/fold.h"
-#include "zeph.h"
+
+using namespace Orbane;
 
 namespace zeph_test {
 namespace {
 
-constexpr const char* alphabets[] = {" ,a", " a\xC4", ",,a", "  ,,aaaaaaaaaaaaaaaaaaaa", ""};
+using Fields = std::vector<std::string>;
 
 std::string list_text(Draw& draw) {
+  const char* const alphabets[] = {" ,a", " a\xC4", ",,a", "  ,,aaaaaaaaaaaaaaaaaaaa", ""};
   return draw.text(300, alphabets[draw.below(5)]);
 }
 
+// A cut is all overloads of a function as one: `cut(text, outputs...)`. Its byte text forms, in
+// rooms of so many bytes; the last output may be the text itself.
+template <typename Cut>
+void expect_bytes(Cut cut, char* text, bool in_place, std::size_t room, const Fields& expected) {
+  std::deque<GuardedBuffer> rooms;
+  std::vector<char*> outputs;
+  while (rooms.size() < expected.size()) outputs.push_back(rooms.emplace_back(room).data());
+  if (in_place) outputs.back() = text;
+  with_first<5>(expected.size(), outputs, [&](auto&... o) { cut(text, o...); });
+  ASSERT_EQ(Fields(outputs.begin(), outputs.end()), expected);
+  for (std::size_t i = 0; i + in_place < expected.size(); ++i) {
+    EXPECT_TRUE(rooms[i].untouched(expected[i].size() + 1)) << "bytes behind the terminator";
+  }
+}
+
+template <typename Cut>
+void expect_bytes(Cut cut, const std::string& text, std::size_t room, const Fields& expected) {
+  SCOPED_TRACE("'" + text + "' " + std::to_string(expected.size()) + " fields, room " +
+               std::to_string(room));
+  const GuardedText apart(text), in_place(text);
+  expect_bytes(cut, apart.data(), false, room, expected);
+  EXPECT_EQ(apart.data(), text) << "the text is unchanged";
+  expect_bytes(cut, in_place.data(), true, room, expected);
+}
+
+// The String forms too; one of the outputs may be the text.
+template <typename Cut>
+void expect_fields(Cut cut, const std::string& text, std::size_t limit, const Fields& expected) {
+  expect_bytes(cut, text, limit + 1, expected);
+  Fields outputs(6, "former content");
+  const std::string& own = outputs[text.size() % 6] = text;
+  with_first<5>(expected.size(), outputs, [&](auto&... o) { cut(own, o...); });
+  outputs.resize(expected.size());
+  EXPECT_EQ(outputs, expected) << text;
+}
+
 // The first blank ends field 1, before others blanks are skipped; a later field that is full ends
-// the split.
-Fields cut_at_blanks(std::size_t count, const std::string& text, std::size_t limit) {
+// the split, and reading: nothing behind `text` bytes is looked at.
+Fields cut_at_blanks(std::size_t count, std::string& text, std::size_t limit) {
   Fields fields(count);
   std::size_t field = 0;
-  for (const char byte : text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
     std::string& now = fields[field];
-    if (byte == ' ' && field > 0 && now.empty()) continue;
-    if (byte == ' ' && field < count - 1) {
+    if (text[i] == ' ' && field > 0 && now.empty()) continue;
+    if (text[i] == ' ' && field < count - 1) {
       ++field;
       continue;
     }
-    if (now.size() < limit) now += byte;
-    if (field > 0 && now.size() == limit) break;
+    if (now.size() < limit) now += text[i];
+    if (field > 0 && now.size() == limit) text.resize(i + 1);
   }
   return fields;
 }
@@ -76,25 +112,29 @@ Fields items_of(const std::string& list, char separator) {
   return items;
 }
 
-void blank_fields(Draw& draw) {
-  const std::size_t count = 2 + draw.below(4), limit = 1 + draw.below(draw.yes() ? 6 : 140);
-  const std::string text = list_text(draw);
-  expect_split(blank_cut, count, text, static_cast<int>(limit), cut_at_blanks(count, text, limit));
-}
-
-void char_fields(Draw& draw) {
+void fields_from_the_left(Draw& draw) {
   const std::size_t count = 2 + draw.below(4), limit = 1 + draw.below(draw.yes() ? 6 : 140);
   const char delimiter = draw.yes() ? ',' : static_cast<char>(draw.byte());
   const std::string text = list_text(draw);
-  expect_split(CharCut{delimiter}, count, text, static_cast<int>(limit),
-               cut_at_delimiters(count, text, delimiter, limit));
+  const auto most = static_cast<int>(limit);
+  expect_fields(
+      [&](const auto& from, auto&... to) { Zeph_Seperate_Char(from, delimiter, to..., most); },
+      text, limit, cut_at_delimiters(count, text, delimiter, limit));
+  const auto cut = [&](const auto& from, auto&... to) { Zeph_Seperate(from, to..., most); };
+  std::string read = text;
+  const Fields fields = cut_at_blanks(count, read, limit);
+  expect_fields(cut, text, limit, fields);
+  const GuardedText bare(read, read.size() < text.size() ? End::bare : End::terminated);
+  expect_bytes(cut, bare.data(), false, limit + 1, fields);
 }
 
-void reverse_fields(Draw& draw) {
+void fields_from_the_right(Draw& draw) {
   const std::size_t count = 2 + draw.below(4);
   const std::string text = list_text(draw);
-  expect_reverse(reverse_blank_cut, count, text, cut_from_right(count, text, ' '));
-  expect_reverse(reverse_comma_cut, count, text, cut_from_right(count, text, ','));
+  expect_bytes([](char* from, auto&... to) { Zeph_Seperate_Reverse(from, to...); }, text,
+               text.size() + 1, cut_from_right(count, text, ' '));
+  expect_bytes([](char* from, auto&... to) { Zeph_Seperate_Char_Reverse(from, ',', to...); }, text,
+               text.size() + 1, cut_from_right(count, text, ','));
 }
 
 void words_by_index(Draw& draw) {
@@ -104,16 +144,15 @@ void words_by_index(Draw& draw) {
   words.erase(std::remove(words.begin(), words.end(), ""), words.end());
   const int index = draw.yes() ? draw.between(0, 4) : draw.any_int();
   const int limit = draw.between(-1, 140);
-  const bool there = index >= 0 && static_cast<std::size_t>(index) < words.size() && limit > 0;
-  GuardedBuffer out(static_cast<std::size_t>(std::max(limit, 0)) + 1);
-  if (separator == ' ') {
-    Orbane::Zeph_Seperate_With_Index(GuardedText(text).data(), out.data(), index, limit);
-  } else {
-    Orbane::Zeph_Seperate_Char_With_Index(GuardedText(text).data(), ',', out.data(), index, limit);
-  }
-  const std::string word = there ? words[static_cast<std::size_t>(index)] : "";
-  EXPECT_EQ(out.data(), word.substr(0, static_cast<std::size_t>(std::max(limit, 0))));
-  EXPECT_TRUE(out.untouched(std::string(out.data()).size() + 1));
+  const auto most = static_cast<std::size_t>(std::max(limit, 0));
+  const bool there = index >= 0 && static_cast<std::size_t>(index) < words.size();
+  const GuardedText from(text);
+  const auto get = [&](char* out) {
+    separator == ' ' ? Zeph_Seperate_With_Index(from.data(), out, index, limit)
+                     : Zeph_Seperate_Char_With_Index(from.data(), ',', out, index, limit);
+  };
+  EXPECT_EQ(left_in_room(most + 1, get),
+            there ? words[static_cast<std::size_t>(index)].substr(0, most) : "");
 }
 
 int index_in(const Fields& items, const std::string& value) {
@@ -130,46 +169,37 @@ void index_of_value(Draw& draw) {
   Fields lowered;
   for (const std::string& item : items) lowered.push_back(folded(item));
   const GuardedText text(list), wanted(value);
-  if (separator == ' ') {
-    EXPECT_EQ(Orbane::Zeph_Seperate_Get_Index(text.data(), wanted.data()), index_in(items, value));
-    EXPECT_EQ(Orbane::Zeph_Seperate_Get_Index_L(text.data(), wanted.data()),
-              index_in(lowered, folded(value)));
-  } else {
-    EXPECT_EQ(Orbane::Zeph_Seperate_Char_Get_Index(text.data(), separator, wanted.data()),
-              index_in(items, value));
-    EXPECT_EQ(Orbane::Zeph_Seperate_Char_Get_Index_L(text.data(), separator, wanted.data()),
-              index_in(lowered, folded(value)));
-  }
+  const char *const from = text.data(), *const what = wanted.data();
+  EXPECT_EQ(separator == ' ' ? Zeph_Seperate_Get_Index(from, what)
+                             : Zeph_Seperate_Char_Get_Index(from, separator, what),
+            index_in(items, value));
+  EXPECT_EQ(separator == ' ' ? Zeph_Seperate_Get_Index_L(from, what)
+                             : Zeph_Seperate_Char_Get_Index_L(from, separator, what),
+            index_in(lowered, folded(value)));
 }
 
 // The items of a split, joined, are the text without its empty items.
 void split_and_join(Draw& draw) {
   const std::string text = draw.yes() ? draw.bytes(300) : list_text(draw);
   const char delimiter = draw.yes() ? ',' : '\0';
-  Fields expected = {"held"};
+  Fields expected = {"held"}, list = expected;
+  std::string joined = "held", out = "former";
   for (const std::string& item : items_of(text, delimiter)) {
-    if (!item.empty()) expected.push_back(item);
+    if (item.empty()) continue;
+    expected.push_back(item);
+    joined += "|" + item;
   }
-  Fields list = {"held"};
-  Orbane::Zeph_Split(text, delimiter, list);
+  Zeph_Split(text, delimiter, list);
   EXPECT_EQ(list, expected);
-  std::string joined;
-  for (const std::string& item : expected) joined += (joined.empty() ? "" : "|") + item;
-  std::string out = "former";
-  Orbane::Zeph_Join(list, '|', out);
+  Zeph_Join(list, '|', out);
   EXPECT_EQ(out, joined);
-  EXPECT_EQ(Orbane::Zeph_Join(list, '|'), joined);
+  EXPECT_EQ(Zeph_Join(list, '|'), joined);
 }
 
 }  // namespace
 
-Rules fields_rules() {
-  return {{"blank fields", blank_fields},
-          {"fields at a byte", char_fields},
-          {"fields from the right", reverse_fields},
-          {"words by index", words_by_index},
-          {"index of a value", index_of_value},
-          {"split and join", split_and_join}};
-}
+const Family fields_family{
+    "fields",
+    {fields_from_the_left, fields_from_the_right, words_by_index, index_of_value, split_and_join}};
 
 }  // namespace zeph_test

@@ -1,18 +1,11 @@
 // Integers and real numbers from texts, and real numbers as texts.
-#include <algorithm>
-#include <cerrno>
 #include <cmath>
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <iterator>
 
 #include "number/integer_text_table.h"
 #include "number/number_harness.h"
 #include "number/real_format_table.h"
 #include "rules.h"
-#include "zeph.h"
 
 using namespace Orbane;
 
@@ -107,9 +100,7 @@ std::string middle_of_doubles(Draw& draw) {
   const std::uint64_t odd = (draw.word() >> 10) | (std::uint64_t{1} << 53) | 1;
   const std::uint64_t whole = odd >> places;
   const double fraction = std::ldexp(static_cast<double>(odd - (whole << places)), -places);
-  char digits[40];
-  std::snprintf(digits, sizeof digits, "%#.*f", places, fraction);
-  const std::string text = std::to_string(whole) + (digits + 1);
+  const std::string text = std::to_string(whole) + printed("%#.*f", places, fraction).substr(1);
   return draw.yes() ? text : text + std::string(draw.below(20), '0') + "1";
 }
 
@@ -122,16 +113,9 @@ std::string any_digits(Draw& draw) {
 }
 
 std::string real_text(Draw& draw) {
-  switch (draw.below(4)) {
-    case 0:
-      return draw.text(8, "05.e-+");
-    case 1:
-      return draw.text(8, " 0x1pE.-n:/");
-    case 2:
-      return middle_of_doubles(draw);
-    default:
-      return any_digits(draw);
-  }
+  const std::size_t kind = draw.below(4);
+  if (kind < 2) return draw.text(8, kind == 0 ? "05.e-+" : " 0x1pE.-n:/");
+  return kind == 2 ? middle_of_doubles(draw) : any_digits(draw);
 }
 
 void reals(Draw& draw) {
@@ -147,28 +131,20 @@ void reals(Draw& draw) {
 
 // What the runtime's format makes of each code.
 void real_formats(Draw& draw) {
-  const std::uint64_t image = draw.word();
-  double value;
-  std::memcpy(&value, &image, sizeof value);
+  double value = draw.real();
   if (draw.yes()) value = any_of(draw, special_values);
   if (draw.yes()) value = std::ldexp(draw.between(-30000, 30000), -draw.between(0, 40));  // ties
   if (draw.yes()) value = draw.any_int() / 1000.0;
   const int code = draw.between(-12, 12);
-  char text[400];
   const bool exponent = code < 0 && code >= -10;
   const int decimals = exponent ? -code : code >= 0 && code <= 10 ? code : 6;
-  std::snprintf(text, sizeof text, exponent ? "%.*e" : "%.*f", decimals, value);
-  expect_written(value, code, std::string(text).substr(0, 63));
+  const std::string text = printed(exponent ? "%.*e" : "%.*f", decimals, value);
+  expect_written(value, code, text.substr(0, 63));
 }
 
 }  // namespace
 
-Rules numbers_rules() {
-  return {{"strict integers", strict_integers},
-          {"lenient integers", lenient_integers},
-          {"hexadecimal filter", hexadecimal_filter},
-          {"reals", reals},
-          {"reals as texts", real_formats}};
-}
+const Family numbers_family{
+    "numbers", {strict_integers, lenient_integers, hexadecimal_filter, reals, real_formats}};
 
 }  // namespace zeph_test

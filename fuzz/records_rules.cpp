@@ -1,13 +1,5 @@
 // Sealed texts: records of any content, under any key.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstring>
-#include <string>
-
 #include "rules.h"
-#include "support/guarded_buffer.h"
-#include "zeph.h"
 
 using namespace Orbane;
 
@@ -36,8 +28,8 @@ std::string opened(const std::string& record, std::size_t room, std::size_t resu
   const GuardedBuffer text(room);
   EXPECT_EQ(Zeph_Decrypt(from.data(), text.data()), result);
   EXPECT_EQ(Zeph_Decrypt(from.data(), nullptr), 0u);
-  EXPECT_EQ(std::string(from.data(), from.size()), record) << "the record is only read";
-  return {text.data(), room};
+  EXPECT_EQ(from.bytes(), record) << "the record is only read";
+  return text.bytes();
 }
 
 // The length, the padding, and each block as if it were sealed alone.
@@ -49,7 +41,7 @@ void sealed_and_opened(Draw& draw) {
   const GuardedBuffer record(16 + length);
   EXPECT_EQ(Zeph_Encrypt(from.data(), nullptr), 0u);
   EXPECT_EQ(Zeph_Encrypt(from.data(), record.data()), length);
-  const std::string bytes(record.data(), record.size());
+  const std::string bytes = record.bytes();
   EXPECT_EQ(bytes.substr(0, 16),
             header(static_cast<std::uint32_t>(length), static_cast<std::uint32_t>(pads)));
   if (length > 0) {
@@ -59,7 +51,7 @@ void sealed_and_opened(Draw& draw) {
   for (std::size_t at = 0; at < length; at += 16) {
     const GuardedBuffer alone(32);
     Zeph_Encrypt(GuardedText(filled.substr(at, 16)).data(), alone.data());
-    EXPECT_EQ(bytes.substr(16 + at, 16), std::string(alone.data() + 16, 16));
+    EXPECT_EQ(bytes.substr(16 + at, 16), alone.bytes().substr(16));
   }
   // In its place. The terminator of a text that fills its last block lies behind the record.
   const GuardedBuffer room(16 + std::max(length, text.size() + 1));
@@ -92,8 +84,6 @@ void foreign_records(Draw& draw) {
 
 }  // namespace
 
-Rules records_rules() {
-  return {{"sealed and opened", sealed_and_opened}, {"foreign records", foreign_records}};
-}
+const Family records_family{"records", {sealed_and_opened, foreign_records}};
 
 }  // namespace zeph_test

@@ -3,44 +3,45 @@
 // every byte of the outputs against the simplest loop that gives them. The fuzz targets run the
 // checks on bytes that a fuzzer makes, the tests on texts of every short length at every place.
 //
-// To add a check: a function `void name(Draw& draw)` and a line in its family's list.
+// To add a check: a function `void name(Draw& draw)`, named in its family's list.
 #ifndef ZEPH_FUZZ_RULES_H
 #define ZEPH_FUZZ_RULES_H
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <string>
 #include <vector>
 
 #include "support/draw.h"
+#include "support/fold.h"
+#include "support/guarded_buffer.h"
+#include "zeph.h"
 
 namespace zeph_test {
 
-struct Rule {
+struct Family {
   const char* name;
-  void (*check)(Draw& draw);
+  std::vector<void (*)(Draw& draw)> rules;
 };
-using Rules = std::vector<Rule>;
 
-Rules codepages_rules();
-Rules composition_rules();
-Rules dumps_rules();
-Rules fields_rules();
-Rules numbers_rules();
-Rules records_rules();
-Rules rewriting_rules();
-Rules search_rules();
+extern const Family codepages_family, composition_family, dumps_family, fields_family,
+    numbers_family, records_family, rewriting_family, search_family;
+const Family* const families[] = {&codepages_family, &composition_family, &dumps_family,
+                                  &fields_family,    &numbers_family,     &records_family,
+                                  &rewriting_family, &search_family};
 
-const struct Family {
-  const char* name;
-  Rules (*rules)();
-} families[] = {
-    {"codepages", codepages_rules},      // UTF-8 and code page 936
-    {"composition", composition_rules},  // append, print, alarm texts, buffers
-    {"dumps", dumps_rules},              // hex dumps, message names
-    {"fields", fields_rules},            // from the left and right, by index, lists
-    {"numbers", numbers_rules},          // integers, reals, reals as texts
-    {"records", records_rules},          // sealed texts
-    {"rewriting", rewriting_rules},      // replace, remove, enclosing marks
-    {"search", search_rules},            // search, slices, markers, comparison, case, blanks
-};
+// `call` with the first `count` of the items, which are two to `most`.
+template <std::size_t most, typename Items, typename Call, typename... Taken>
+void with_first(std::size_t count, Items& items, Call call, Taken&... taken) {
+  if constexpr (sizeof...(taken) >= 2) {
+    if (sizeof...(taken) == count) return call(taken...);
+  }
+  if constexpr (sizeof...(taken) < most) {
+    with_first<most>(count, items, call, taken..., items[sizeof...(taken)]);
+  }
+}
 
 }  // namespace zeph_test
 

@@ -1,19 +1,10 @@
 // Search, slices and markers; comparison, case and blanks.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <climits>
-#include <cstring>
 #include <stdexcept>
-#include <string>
 
 #include "compare/blank_trim_table.h"
 #include "compare/case_fold_table.h"
 #include "rules.h"
-#include "support/fold.h"
-#include "support/guarded_buffer.h"
 #include "support/table.h"
-#include "zeph.h"
 
 using namespace Orbane;
 
@@ -73,76 +64,54 @@ std::string outcome(const std::string& text, Call call) {
   return "refused";
 }
 
-// A slice by position: of the byte text, the String, and by the String form with fewer questions.
-void expect_slice(const std::string& text, int start, int count, const std::string& bytes,
-                  const std::string& string, const std::string& loose) {
-  SCOPED_TRACE(text + ' ' + std::to_string(start) + ' ' + std::to_string(count));
-  const bool refused = bytes == "refused";
-  const GuardedText in(text);
-  const GuardedBuffer out(refused ? 1 : bytes.size() + 1);
-  EXPECT_EQ(Zeph_Get_SubString(in.data(), start, count, out.data()), !refused);
-  if (refused) {
-    EXPECT_TRUE(out.untouched());
-  } else {
-    EXPECT_EQ(std::string(out.data(), out.size()), bytes + '\0');
-    EXPECT_TRUE(Zeph_Get_SubString(in.data(), start, count, in.data()));
-    EXPECT_EQ(in.data(), bytes) << "the text as its own output";
-  }
-  EXPECT_EQ(outcome(text, [&](std::string& s) { return Zeph_Get_SubString(s, start, count, s); }),
-            string);
-  const auto cut_loosely = [&](std::string& s) {
-    Zeph_Ext_Str_From_Str(s, start, count, s);
-    return true;
-  };
-  EXPECT_EQ(outcome(text, cut_loosely), loose);
-}
-
+// By position: of the byte text, the String, and by the String form with fewer questions.
 void slices(Draw& draw) {
   const std::string text = draw.text(100);
   const int start = draw.any_int(), count = draw.any_int();
-  const std::size_t from = static_cast<std::size_t>(std::max(start, 0));
-  const bool inside = start >= 0 && from < text.size();
+  const auto from = static_cast<std::size_t>(std::max(start, 0));
+  const bool inside = start >= 0 && from < text.size(), thrown = start < 0;
   const std::string piece = inside ? text.substr(from, static_cast<std::size_t>(count)) : "";
-  const bool thrown = start < 0;
-  expect_slice(text, start, count, inside ? piece : "refused",
-               inside   ? piece
-               : thrown ? "thrown"
-                        : "refused",
-               thrown || from > text.size() ? "thrown" : piece);
-  if (start < 0 || count < 0) {
-    const GuardedBuffer none(1);
-    Zeph_Ext_Str_From_Str(GuardedText(text).data(), start, count, none.data());
-    EXPECT_EQ(none.data()[0], '\0');
-  }
-  if (!inside || count < 0) return;
-  const GuardedBuffer out(piece.size() + 1);  // exactly what is told, no terminator read
-  Zeph_Ext_Str_From_Str(GuardedText(text, End::bare).data(), start, static_cast<int>(piece.size()),
-                        out.data());
-  EXPECT_EQ(std::string(out.data(), out.size()), piece + '\0');
-}
-
-void expect_between(const std::string& text, char open, char close, const std::string& between) {
-  EXPECT_EQ(outcome(text, [&](std::string& s) { return Zeph_Get_SubString(s, open, close, s); }),
-            between)
-      << text;
-}
-
-void expect_name(const std::string& path, int size, const std::string& name) {
-  const GuardedBuffer out(size > 0 ? static_cast<std::size_t>(size) + 1 : 1);
-  Zeph_Ext_Name_From_FullPath(out.data(), GuardedText(path).data(), size);
-  EXPECT_EQ(out.data(), name) << path;
-  EXPECT_TRUE(out.untouched(name.size() + 1));
+  SCOPED_TRACE(text + ' ' + std::to_string(start) + ' ' + std::to_string(count));
+  const GuardedText in(text);
+  const auto cut = [&](char* out) {
+    EXPECT_EQ(Zeph_Get_SubString(in.data(), start, count, out), inside);
+  };
+  EXPECT_EQ(left_in_room(piece.size() + 1, cut),
+            inside ? piece : std::string(1, GuardedBuffer::pattern));
+  cut(in.data());
+  EXPECT_EQ(in.data(), inside ? piece : text) << "the text as its own output";
+  EXPECT_EQ(outcome(text, [&](auto& own) { return Zeph_Get_SubString(own, start, count, own); }),
+            inside   ? piece
+            : thrown ? "thrown"
+                     : "refused");
+  const auto cut_loosely = [&](std::string& own) {
+    Zeph_Ext_Str_From_Str(own, start, count, own);
+    return true;
+  };
+  EXPECT_EQ(outcome(text, cut_loosely), thrown || from > text.size() ? "thrown" : piece);
+  const bool none = thrown || count < 0;
+  if (!none && !inside) return;
+  const int told = none ? count : static_cast<int>(piece.size());  // and no terminator is read
+  const GuardedText bare(text, End::bare);
+  const auto extract = [&](char* out) { Zeph_Ext_Str_From_Str(bare.data(), start, told, out); };
+  EXPECT_EQ(left_in_room(none ? 1 : piece.size() + 1, extract), none ? "" : piece);
 }
 
 void between_and_behind(Draw& draw) {
   const std::string text = draw.yes() ? draw.bytes(60) : draw.text(60, "(a)/\\");
   const std::size_t open = text.find('('), close = text.find(')');
   const bool apart = open != std::string::npos && close != std::string::npos && close > open + 1;
-  expect_between(text, '(', ')', apart ? text.substr(open + 1, close - open - 1) : "refused");
+  EXPECT_EQ(outcome(text, [](auto& own) { return Zeph_Get_SubString(own, '(', ')', own); }),
+            apart ? text.substr(open + 1, close - open - 1) : "refused")
+      << text;
   const std::string path = text.c_str();
   const int size = draw.between(-2, 140);
-  const std::string name = path.substr(path.find_last_of("/\\") + 1);  // npos + 1 is 0
-  expect_name(path, size, name.substr(0, static_cast<std::size_t>(std::max(size, 0))));
+  const auto most = static_cast<std::size_t>(std::max(size, 0));
+  const GuardedText from(path);
+  const auto extract = [&](char* out) { Zeph_Ext_Name_From_FullPath(out, from.data(), size); };
+  EXPECT_EQ(left_in_room(most + 1, extract),
+            path.substr(path.find_last_of("/\\") + 1).substr(0, most))  // npos + 1 is 0
+      << path;
 }
 
 // What stands on both sides of a marker, a text or a byte, by the forms that return it and those
@@ -152,24 +121,11 @@ void expect_sides(const std::string& text, const Marker& marker, const std::stri
                   const std::string& right) {
   EXPECT_EQ(Zeph_Left(text, marker), left) << text << ' ' << marker;
   EXPECT_EQ(Zeph_Right(text, marker), right) << text << ' ' << marker;
-  std::string own = text;
-  Zeph_Left(own, marker, own);
-  EXPECT_EQ(own, left);
-  own = text;
-  Zeph_Right(own, marker, own);
-  EXPECT_EQ(own, right);
-}
-
-void expect_around(const std::string& text, const std::string& marker, const std::string& left,
-                   const std::string& right) {
-  expect_sides(text, marker, left, right);
-  if (marker.size() == 1) expect_sides(text, marker[0], left, right);
-  std::string own = marker;
-  Zeph_Left(text, own, own);
-  EXPECT_EQ(own, left) << "the marker as the output";
-  own = marker;
-  Zeph_Right(text, own, own);
-  EXPECT_EQ(own, right) << "the marker as the output";
+  std::string head = text, tail = text;
+  Zeph_Left(head, marker, head);
+  Zeph_Right(tail, marker, tail);
+  EXPECT_EQ(head, left);
+  EXPECT_EQ(tail, right);
 }
 
 void markers(Draw& draw) {
@@ -177,14 +133,21 @@ void markers(Draw& draw) {
   const std::string text = draw.yes() ? draw.bytes(200) : draw.text(200, alphabet);
   const std::string marker = needle_of(draw, text, alphabet);
   const std::size_t first = text.find(marker), last = text.rfind(marker);
-  expect_around(text, marker, text.substr(0, first),
-                last == std::string::npos ? text : text.substr(last + marker.size()));
+  const std::string left = text.substr(0, first);
+  const std::string right = last == std::string::npos ? text : text.substr(last + marker.size());
+  expect_sides(text, marker, left, right);
+  if (marker.size() == 1) expect_sides(text, marker[0], left, right);
+  std::string head = marker, tail = marker;
+  Zeph_Left(text, head, head);
+  Zeph_Right(text, tail, tail);
+  EXPECT_EQ(head, left) << "the marker as the output";
+  EXPECT_EQ(tail, right) << "the marker as the output";
 }
 
-// All forms, whole or up to a number.
+// All forms, whole or up to a number; Strings up to their first zero byte.
 template <typename... Number>
 void expect_comparison(const char* a, const char* b, bool exact, bool folded, Number... n) {
-  std::string string_a = a, string_b = b;
+  std::string string_a = std::string(a) + '\0', string_b = std::string(b) + '\0' + 'x';
   EXPECT_EQ(Zeph_Compare(a, b, n...), exact) << a << ' ' << b;
   EXPECT_EQ(Zeph_Compare(string_a, string_b, n...), exact);
   EXPECT_EQ(Zeph_Compare_L(a, b, n...), folded) << a << ' ' << b;
@@ -214,13 +177,12 @@ void comparison(Draw& draw) {
 void expect_fold(const FoldForms& fold, const std::string& text, const std::string& expected) {
   const std::string bytes = expected.c_str();
   const GuardedText in_place(text), source(text);
-  const GuardedBuffer target(bytes.size() + 1);
   fold.in_place(in_place.data());
-  EXPECT_EQ(std::string(in_place.data(), text.size()), bytes + text.substr(bytes.size()));
-  fold.copy(source.data(), target.data());
-  EXPECT_EQ(std::string(target.data(), target.size()), bytes + '\0');
+  EXPECT_EQ(in_place.bytes(), bytes + text.substr(bytes.size()) + '\0');
+  EXPECT_EQ(left_in_room(bytes.size() + 1, [&](char* out) { fold.copy(source.data(), out); }),
+            bytes);
   fold.copy(source.data(), source.data());
-  EXPECT_STREQ(source.data(), bytes.c_str());
+  EXPECT_EQ(source.data(), bytes);
   std::string string = text, copy = "former content", same = text;
   fold.string(string);
   fold.string_copy(text, copy);
@@ -245,10 +207,15 @@ void expect_trims(const std::string& text) {
     while (family.head && *start == ' ') std::memmove(start, start + 1, std::strlen(start));
     for (std::size_t i = std::strlen(start); family.tail && i > 0 && start[i - 1] == ' '; --i)
       start[i - 1] = '\0';
+    std::string both = text + '\0' + text, rest = both;  // a zero byte is no blank
+    if (family.head) rest.erase(0, rest.find_first_not_of(' '));
+    if (family.tail) rest.erase(rest.find_last_not_of(' ') + 1);
+    family.string(both);
+    ASSERT_EQ(both, rest);
     const std::size_t capacity = string.capacity();
     const GuardedText bytes(text);
     family.bytes(bytes.data());
-    ASSERT_EQ(std::string(bytes.data(), bytes.size()), plain) << '\'' << text << '\'';
+    ASSERT_EQ(bytes.bytes(), plain) << '\'' << text << '\'';
     family.string(string);
     ASSERT_EQ(string, start);
     ASSERT_EQ(string.capacity(), capacity);
@@ -264,14 +231,8 @@ void trims_of_blanks(Draw& draw) {
 
 }  // namespace
 
-Rules search_rules() {
-  return {{"positions", positions},
-          {"slices", slices},
-          {"between delimiters, behind separators", between_and_behind},
-          {"markers", markers},
-          {"comparison", comparison},
-          {"case folds", case_folds},
-          {"trims of blanks", trims_of_blanks}};
-}
+const Family search_family{
+    "search",
+    {positions, slices, between_and_behind, markers, comparison, case_folds, trims_of_blanks}};
 
 }  // namespace zeph_test

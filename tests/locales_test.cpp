@@ -1,50 +1,32 @@
 // Folds and decimal points follow the process's locale: the fast path of the "C" locale and the
 // runtime's own service alike. The locales are made for the test where none is installed.
-#include <gtest/gtest.h>
-
 #include <clocale>
-#include <cstdio>
-#include <cstdlib>
-#include <string>
+#include <functional>
 
 #if __has_include(<langinfo.h>)
 #include <langinfo.h>
 #endif
 
 #include "number/number_harness.h"
-#include "zeph.h"
+#include "support/fold.h"
 
 using namespace Orbane;
 using namespace zeph_test;
 
 namespace {
 
-// A locale for the length of a test, out of those that the build has made with localedef.
-class ScopedLocale {
- public:
-  ScopedLocale(int category, const char* name) : category_(category) {
+// `check` under one of the locales that the build has made with localedef.
+void under_locale(int category, const char* name, const std::function<void()>& check) {
 #ifndef _WIN32
-    setenv("LOCPATH", ZEPH_LOCALES_DIR, 1);
+  setenv("LOCPATH", ZEPH_LOCALES_DIR, 1);
 #endif
-    in_force_ = std::setlocale(category, name) != nullptr;
-  }
-  ~ScopedLocale() {
-    std::setlocale(category_, "C");
-  }
-  ScopedLocale(const ScopedLocale&) = delete;
-  ScopedLocale& operator=(const ScopedLocale&) = delete;
-
-  bool in_force() const {
-    return in_force_;
-  }
-
- private:
-  int category_;
-  bool in_force_;
-};
+  if (!std::setlocale(category, name)) GTEST_SKIP() << "no such locale";
+  check();
+  std::setlocale(category, "C");
+}
 
 template <typename Fold>
-std::string folded(Fold fold, std::string text) {
+std::string both_folded(Fold fold, std::string text) {
   std::string bytes = text + '\0';
   fold(bytes.data());
   fold(text);
@@ -64,10 +46,10 @@ void expect_folds(const Folds& folds) {
   const std::string text = "I\xDD[\xC7|i\xFD{\xE7", padding(100, '-');
   const auto lower = [](auto&& each) { Zeph_Lower(each); };
   const auto upper = [](auto&& each) { Zeph_Upper(each); };
-  EXPECT_EQ(folded(lower, text), folds.lower);
-  EXPECT_EQ(folded(upper, text), folds.upper);
-  EXPECT_EQ(folded(lower, padding + text), padding + folds.lower) << "the wide path";
-  EXPECT_EQ(folded(upper, padding + text), padding + folds.upper);
+  EXPECT_EQ(both_folded(lower, text), folds.lower);
+  EXPECT_EQ(both_folded(upper, text), folds.upper);
+  EXPECT_EQ(both_folded(lower, padding + text), padding + folds.lower) << "the wide path";
+  EXPECT_EQ(both_folded(upper, padding + text), padding + folds.upper);
   const struct {
     const char *a, *b;
     bool equal;
@@ -94,16 +76,14 @@ void expect_folds(const Folds& folds) {
 }
 
 void expect_as_runtime(double value) {
-  char text[400], stack[400], appended[400] = "";
-  std::snprintf(text, sizeof text, "%f", value);
-  expect_written(value, 6, std::string(text).substr(0, 63));
+  const std::string text = printed("%f", value), brief = printed("%.2e", value);
+  char stack[400], appended[400] = "";
+  expect_written(value, 6, text.substr(0, 63));
   Zeph_Copy_Stack(stack, value, sizeof stack);
-  EXPECT_STREQ(stack, text);
-  Zeph_Cat(appended, value);
-  EXPECT_STREQ(appended, text);
-  std::snprintf(text, sizeof text, "%.2e", value);
-  expect_written(value, -2, text);
-  EXPECT_EQ(Zeph_Splicing(64, "%.2e", value), text);
+  EXPECT_EQ(stack, text);
+  EXPECT_EQ(Zeph_Cat(appended, value), text);
+  expect_written(value, -2, brief);
+  EXPECT_EQ(Zeph_Splicing(64, "%.2e", value), brief);
 }
 
 }  // namespace
@@ -113,27 +93,20 @@ TEST(Locales, FoldsOfTheCLocale) {
 }
 
 TEST(Locales, FoldsOfASingleByteLocale) {
-  const ScopedLocale locale(LC_CTYPE, "tr_TR.ISO-8859-9");
-  if (!locale.in_force()) GTEST_SKIP() << "no such locale";
-  expect_folds(turkish);
+  under_locale(LC_CTYPE, "tr_TR.ISO-8859-9", [] { expect_folds(turkish); });
 }
 
 // The locale is another one, its single bytes fold as in "C".
 TEST(Locales, FoldsOfAMultibyteLocale) {
-  const ScopedLocale locale(LC_CTYPE, "de_DE.UTF-8");
-  if (!locale.in_force()) GTEST_SKIP() << "no such locale";
-  expect_folds(ascii);
+  under_locale(LC_CTYPE, "de_DE.UTF-8", [] { expect_folds(ascii); });
 }
 
 #ifdef NL_LOCALE_NAME
 // The runtime folds as the thread's own locale does, and so must the wide path.
 TEST(Locales, FoldsOfALocaleOfTheThread) {
-  locale_t turkish_locale;
-  {
-    const ScopedLocale locale(LC_CTYPE, "tr_TR.ISO-8859-9");
-    if (!locale.in_force()) GTEST_SKIP() << "no such locale";
-    turkish_locale = duplocale(LC_GLOBAL_LOCALE);
-  }
+  locale_t turkish_locale{};
+  under_locale(LC_CTYPE, "tr_TR.ISO-8859-9", [&] { turkish_locale = duplocale(LC_GLOBAL_LOCALE); });
+  if (!turkish_locale) return;
   uselocale(turkish_locale);
   expect_folds(turkish);
   uselocale(LC_GLOBAL_LOCALE);
@@ -144,11 +117,11 @@ TEST(Locales, FoldsOfALocaleOfTheThread) {
 TEST(Locales, DecimalPoints) {
   expect_as_runtime(-1234.5678);
   expect_read("2.5", 1, 2.5, 2.5);
-  const ScopedLocale german(LC_NUMERIC, "de_DE.UTF-8");
-  if (!german.in_force()) GTEST_SKIP() << "no such locale";
-  expect_written(1234.5678, -2, "1,23e+03");
-  expect_as_runtime(-1234.5678);
-  expect_as_runtime(1e300);
-  expect_read("2.5", 1, 2.0, 2.0);  // the test takes a point, and the scan stops at it
-  expect_read("2,5e1", 0, before, 25.0);
+  under_locale(LC_NUMERIC, "de_DE.UTF-8", [] {
+    expect_written(1234.5678, -2, "1,23e+03");
+    expect_as_runtime(-1234.5678);
+    expect_as_runtime(1e300);
+    expect_read("2.5", 1, 2.0, 2.0);  // the test takes a point, and the scan stops at it
+    expect_read("2,5e1", 0, before, 25.0);
+  });
 }

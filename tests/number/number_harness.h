@@ -3,14 +3,10 @@
 #ifndef ZEPH_TESTS_NUMBER_NUMBER_HARNESS_H
 #define ZEPH_TESTS_NUMBER_NUMBER_HARNESS_H
 
-#include <gtest/gtest.h>
-
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <string>
 
 #include "support/guarded_buffer.h"
 #include "zeph.h"
@@ -60,10 +56,8 @@ inline void expect_read(const std::string& bytes, int code, double expected, dou
 }
 
 inline void expect_written(double value, int code, const std::string& expected) {
-  const GuardedBuffer out(64);
-  Orbane::Zeph_Conv_Dbl_To_Str(value, code, out.data());
-  EXPECT_EQ(std::string(out.data(), strnlen(out.data(), 64)), expected) << value << ", " << code;
-  EXPECT_TRUE(out.untouched(expected.size() + 1));
+  const auto convert = [&](char* out) { Orbane::Zeph_Conv_Dbl_To_Str(value, code, out); };
+  EXPECT_EQ(left_in_room(64, convert), expected) << value << ", " << code;
 }
 
 const std::string hex_digits = "0123456789ABCDEFabcdef";

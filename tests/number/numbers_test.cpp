@@ -1,9 +1,7 @@
-#include <gtest/gtest.h>
-
 #include <climits>
-#include <string>
 
 #include "number/number_harness.h"
+#include "support/fold.h"
 #include "support/stdout_capture.h"
 
 using namespace Orbane;
@@ -18,17 +16,17 @@ void expect_lenient_limits(Extract extract, const std::string& message) {
   const GuardedBuffer work(301);
   EXPECT_EQ(extract(text.data(), 0, 255), 7);
   for (const int count : {256, INT_MAX, -1, INT_MIN}) {
-    StdoutCapture capture;
-    EXPECT_EQ(extract(text.data(), 0, count), 0);
-    EXPECT_EQ(capture.text(), banner(message));
+    const auto refused = [&] { EXPECT_EQ(extract(text.data(), 0, count), 0); };
+    EXPECT_EQ(stdout_of(refused), banner(message));
   }
-  StdoutCapture capture;
-  EXPECT_EQ(extract(text.data(), 0, -1, work.data()), 0);
-  EXPECT_TRUE(work.untouched());
-  EXPECT_EQ(extract(text.data(), 250, 5, work.data()), 7);
-  EXPECT_TRUE(work.untouched(6));
-  EXPECT_EQ(extract(text.data(), 0, 300, work.data()), 7);
-  EXPECT_EQ(capture.text(), "");
+  const auto with_a_buffer = [&] {
+    EXPECT_EQ(extract(text.data(), 0, -1, work.data()), 0);
+    EXPECT_TRUE(work.untouched());
+    EXPECT_EQ(extract(text.data(), 250, 5, work.data()), 7);
+    EXPECT_TRUE(work.untouched(6));
+    EXPECT_EQ(extract(text.data(), 0, 300, work.data()), 7);
+  };
+  EXPECT_EQ(stdout_of(with_a_buffer), "");
 }
 
 }  // namespace
@@ -42,14 +40,15 @@ TEST(Numbers, LenientLimits) {
 
 TEST(Numbers, NegativeCountsAreRefusedWorkBuffers) {
   for (const int count : {-1, INT_MIN}) {
-    StdoutCapture capture;
-    int value = 7;
-    double real = 7;
-    EXPECT_FALSE(Zeph_To_Int("12", &value, 0, count));
-    EXPECT_FALSE(Zeph_To_Double("12", &real, 0, count));
-    EXPECT_EQ(value + real, 14);
-    EXPECT_EQ(Zeph_HexStr_to_DecInt("12", 1, count), 0);
-    EXPECT_EQ(capture.text(), banners(2, "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem"));
+    const auto refused = [count] {
+      int value = 7;
+      double real = 7;
+      EXPECT_FALSE(Zeph_To_Int("12", &value, 0, count));
+      EXPECT_FALSE(Zeph_To_Double("12", &real, 0, count));
+      EXPECT_EQ(value + real, 14);
+      EXPECT_EQ(Zeph_HexStr_to_DecInt("12", 1, count), 0);
+    };
+    EXPECT_EQ(stdout_of(refused), banner("[Zeph] Memory calloc Fail in Zeph_Prepare_Mem", 2));
   }
 }
 
@@ -57,9 +56,7 @@ TEST(Numbers, NegativeCountsAreRefusedWorkBuffers) {
 TEST(Numbers, WrittenNearTheMiddle) {
   if (!runtime_is_exact()) GTEST_SKIP() << "the runtime does not round to nearest";
   for (const double value : {253.275540565, 43.1682864275, 7.23029181285, 53.6071083625}) {
-    char text[64];
-    std::snprintf(text, sizeof text, "%.10e", value);
-    expect_written(value, -10, text);
+    expect_written(value, -10, printed("%.10e", value));
   }
 }
 

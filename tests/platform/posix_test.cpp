@@ -13,41 +13,33 @@ using namespace zeph_test;
 
 namespace {
 
-void set_zone(const char* name) {
-  setenv("TZ", name, 1);
-  tzset();
-}
-
 long long clock_milliseconds() {
   using namespace std::chrono;
   return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
 }
 
-// The local time is `offset` seconds ahead of UTC, between two readings of the clock.
-void expect_offset(long long offset) {
-  errno = 77;
-  const long long before = clock_milliseconds();
-  const zeph::LocalTime t = zeph::local_time();
-  const long long after = clock_milliseconds();
-  EXPECT_EQ(errno, 77);
-  tm fields{};
-  fields.tm_year = t.year - 1900;
-  fields.tm_mon = t.month - 1;
-  fields.tm_mday = t.day;
-  fields.tm_hour = t.hour;
-  fields.tm_min = t.minute;
-  fields.tm_sec = t.second;
-  const long long local = 1000LL * (timegm(&fields) - offset) + t.millisecond;
-  EXPECT_GE(local, before);
-  EXPECT_LE(local, after);
-}
-
 }  // namespace
 
+// The local time is `offset` seconds ahead of UTC, between two readings of the clock.
 TEST(Posix, LocalTimeFollowsTheZone) {
   each_row(zones, [](const auto& row) {
-    set_zone(row.zone);
-    expect_offset(row.offset);
+    setenv("TZ", row.zone, 1);
+    tzset();
+    errno = 77;
+    const long long before = clock_milliseconds();
+    const zeph::LocalTime t = zeph::local_time();
+    const long long after = clock_milliseconds();
+    EXPECT_EQ(errno, 77);
+    tm fields{};
+    fields.tm_year = t.year - 1900;
+    fields.tm_mon = t.month - 1;
+    fields.tm_mday = t.day;
+    fields.tm_hour = t.hour;
+    fields.tm_min = t.minute;
+    fields.tm_sec = t.second;
+    const long long local = 1000LL * (timegm(&fields) - row.offset) + t.millisecond;
+    EXPECT_GE(local, before);
+    EXPECT_LE(local, after);
   });
 }
 

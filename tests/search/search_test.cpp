@@ -28,11 +28,3 @@ TEST(Search, PiecesOfLongTexts) {
     }
   }
 }
-
-TEST(Search, StringsAreComparedUpToTheirFirstZeroByte) {
-  std::string x("ab\0x", 4), y("ab\0y", 4), plain("AB"), blanks("  b \0 ", 6);
-  EXPECT_TRUE(Orbane::Zeph_Compare(x, y, 4));
-  EXPECT_TRUE(Orbane::Zeph_Compare_L(x, plain, 4));
-  Orbane::Zeph_Trimed(blanks);
-  EXPECT_EQ(blanks, std::string("b \0", 3)) << "a zero byte in a String is no blank";
-}

@@ -1,6 +1,7 @@
 #include "support/draw.h"
 
 #include <climits>
+#include <cstring>
 
 namespace zeph_test {
 
@@ -27,16 +28,18 @@ std::uint64_t Draw::word() {
   return word;
 }
 
+double Draw::real() {
+  const std::uint64_t image = word();
+  double value;
+  std::memcpy(&value, &image, sizeof value);
+  return value;
+}
+
 int Draw::any_int() {
   const int ends[] = {INT_MIN, INT_MIN + 1, -1, 0, 1, INT_MAX - 1, INT_MAX};
-  switch (below(4)) {
-    case 0:
-      return ends[below(7)];
-    case 1:
-      return static_cast<int>(static_cast<std::uint32_t>(word()));
-    default:
-      return between(-4, 70);
-  }
+  const std::size_t kind = below(4);
+  if (kind == 1) return static_cast<int>(static_cast<std::uint32_t>(word()));
+  return kind == 0 ? ends[below(7)] : between(-4, 70);
 }
 
 std::string Draw::text(std::size_t longest, std::string_view alphabet) {
@@ -57,11 +60,8 @@ std::string Draw::filled(std::size_t size, std::string_view alphabet) {
   std::string text(size, '\0');
   for (char& c : text) {
     const unsigned char drawn = byte();
-    if (!alphabet.empty()) {
-      c = alphabet[drawn % alphabet.size()];
-    } else {
-      c = drawn == 0 ? ' ' : static_cast<char>(drawn);
-    }
+    c = alphabet.empty() ? static_cast<char>(drawn == 0 ? ' ' : drawn)
+                         : alphabet[drawn % alphabet.size()];
   }
   return text;
 }

@@ -30,6 +30,7 @@ class Draw {
   int between(int low, int high);        // both included, at most 65536 values
   int any_int();                         // a small one, one of 32 bits, or one at the range's ends
   std::uint64_t word();                  // any 64 bits
+  double real();                         // of any 64 bits
   bool yes() {
     return byte() % 2 != 0;
   }

@@ -1,7 +1,8 @@
-// Folds of bytes, and whole texts under them.
+// Texts as they should be: under a fold of their bytes, and as the runtime prints them.
 #ifndef ZEPH_TESTS_SUPPORT_FOLD_H
 #define ZEPH_TESTS_SUPPORT_FOLD_H
 
+#include <cstdio>
 #include <string>
 
 namespace zeph_test {
@@ -12,6 +13,13 @@ inline char lower(char byte) {
 
 inline std::string folded(std::string text, char (*fold)(char) = lower) {
   for (char& byte : text) byte = fold(byte);
+  return text;
+}
+
+template <typename... Values>
+std::string printed(const char* format, Values... values) {
+  char text[1024];
+  std::snprintf(text, sizeof text, format, values...);
   return text;
 }
 

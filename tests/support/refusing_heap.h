@@ -2,13 +2,10 @@
 // with and without sanitizers. Not on Windows, where a program cannot stand in for the runtime's
 // heap: `REQUIRE_REFUSING_HEAP` skips a test there.
 //
-//     RefusingHeap heap;
-//     heap.refuse_calloc(2);     // the second calloc from here on gives NULL, others do not
-//     heap.refuse_calloc(1, 3);  // the first three
-//     heap.refuse_new(1);        // the first operator new throws std::bad_alloc
-//     heap.callocs();            // requests since the last refuse_calloc or the start
-//
-// The destructor ends all refusals.
+//     calloc_gate.refuse(2);     // the second calloc from here on gives NULL, others do not
+//     calloc_gate.refuse(1, 3);  // the first three
+//     new_gate.refuse(1);        // the first operator new throws std::bad_alloc
+//     refuse_no_more();
 #ifndef ZEPH_TESTS_SUPPORT_REFUSING_HEAP_H
 #define ZEPH_TESTS_SUPPORT_REFUSING_HEAP_H
 
@@ -32,7 +29,7 @@ struct HeapGate {
     const long from = first.load(std::memory_order_relaxed);
     return number >= from && number < from + count.load(std::memory_order_relaxed);
   }
-  void close(long from, long many) {
+  void refuse(long from, long many = 1) {
     count = seen = 0;
     first = from;
     count = many;
@@ -41,42 +38,14 @@ struct HeapGate {
 
 extern HeapGate calloc_gate, new_gate;
 
-class RefusingHeap {
- public:
-  RefusingHeap() {
-    calloc_gate.close(0, 0);
-    new_gate.close(0, 0);
-  }
-  ~RefusingHeap() {
-    refuse_no_more();
-  }
-  RefusingHeap(const RefusingHeap&) = delete;
-  RefusingHeap& operator=(const RefusingHeap&) = delete;
-
-  void refuse_calloc(long first, long count = 1) {
-    calloc_gate.close(first, count);
-  }
-  void refuse_new(long first, long count = 1) {
-    new_gate.close(first, count);
-  }
-  static void refuse_no_more() {  // the counts stay
-    calloc_gate.count = new_gate.count = 0;
-  }
-  long callocs() const {
-    return calloc_gate.seen;
-  }
-  std::size_t last_calloc() const {  // the bytes of the newest request
-    return calloc_gate.last_size;
-  }
-  long news() const {
-    return new_gate.seen;
-  }
-};
+inline void refuse_no_more() {  // what was seen stays
+  calloc_gate.count = new_gate.count = 0;
+}
 
 // The parts as one text, made with a heap that refuses no more.
 template <typename... Parts>
 std::string shown(const Parts&... parts) {
-  RefusingHeap::refuse_no_more();
+  refuse_no_more();
   std::string text;
   ((text += parts, text += '|'), ...);
   return text;
