@@ -57,10 +57,11 @@ void printed_to_size(Draw& draw) {
 
 // The first text lies in a room that holds the result.
 void joined_alarms(Draw& draw) {
+  const char* const alphabet = draw.yes() ? "ab |" : "ab ";
   std::vector<std::string> texts;
   std::string first, second;
   for (std::size_t count = 2 + draw.below(5); texts.size() < count;) {
-    std::string text = draw.text(draw.below(8) == 0 ? 600 : 30, "ab |");
+    std::string text = draw.text(draw.below(8) == 0 ? 600 : 30, alphabet);
     if (draw.yes()) text += "|" + draw.piece(draw.below(8) == 0 ? 600 : 9, "ab");
     const std::size_t half = text.find('|');
     first += (texts.empty() ? "" : " ") + text.substr(0, half);

@@ -1,32 +1,12 @@
 #include "codepage/codepage_model.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstddef>
 #include <fstream>
-#include <unordered_map>
 
 #include "support/guarded_buffer.h"
 #include "zeph.h"
 
 namespace zeph_test {
 namespace {
-
-CodePage read_code_page() {
-  CodePage page;
-  std::ifstream file(ZEPH_DATA_DIR "/cp936.tsv");
-  std::string code, unit, direction;
-  while (file >> code >> unit >> direction) {
-    std::string bytes;
-    for (std::size_t i = 0; i < code.size(); i += 2)
-      bytes += static_cast<char>(std::stoul(code.substr(i, 2), nullptr, 16));
-    const auto number = static_cast<unsigned>(std::stoul(unit, nullptr, 16));
-    page.bytes_of[number] = bytes;
-    if (direction == "both") page.unit_of[bytes] = number;
-  }
-  return page;
-}
 
 // The well-formed sequences of UTF-8: the lowest and the highest value of each byte in turn.
 const std::string well_formed[] = {
@@ -51,30 +31,7 @@ std::size_t fitting(const std::string& text, const std::string& pattern) {
   return n;
 }
 
-}  // namespace
-
-const CodePage& code_page() {
-  static const CodePage page = read_code_page();
-  return page;
-}
-
-std::string utf8(unsigned unit) {
-  const auto tail = [unit](unsigned shift) {
-    return static_cast<char>(0x80 | (unit >> shift & 63));
-  };
-  if (unit < 0x80) return {static_cast<char>(unit)};
-  if (unit < 0x800) return {static_cast<char>(0xC0 | unit >> 6), tail(0)};
-  return {static_cast<char>(0xE0 | unit >> 12), tail(6), tail(0)};
-}
-
-namespace {
-
 std::string expected_ansi(const std::string& text) {
-  static const std::unordered_map<std::string, std::string> bytes_of = [] {
-    std::unordered_map<std::string, std::string> map;
-    for (const auto& [unit, bytes] : code_page().bytes_of) map[utf8(unit)] = bytes;
-    return map;
-  }();
   std::string result;
   for (std::size_t at = 0, size = 1; at < text.size(); at += size) {
     const std::string rest = text.substr(at, 4);
@@ -84,8 +41,9 @@ std::string expected_ansi(const std::string& text) {
       size = std::max(size, fitting(rest, pattern));
       whole = whole || 2 * fitting(rest, pattern) == pattern.size();
     }
-    const auto found = bytes_of.find(rest.substr(0, size));
-    result += found != bytes_of.end() ? found->second : whole && size == 4 ? "??" : "?";
+    const auto found = code_page().bytes_of.find(rest.substr(0, size));
+    const bool known = found != code_page().bytes_of.end();
+    result += known ? found->second : whole && size == 4 ? "??" : "?";
   }
   return result;
 }
@@ -102,6 +60,32 @@ std::string expected_utf8(const std::string& text) {
 }
 
 }  // namespace
+
+const CodePage& code_page() {
+  static const CodePage page = [] {
+    CodePage read;
+    std::ifstream file(ZEPH_DATA_DIR "/cp936.tsv");
+    for (std::string code, unit, direction; file >> code >> unit >> direction;) {
+      std::string bytes;
+      for (std::size_t i = 0; i < code.size(); i += 2)
+        bytes += static_cast<char>(std::stoul(code.substr(i, 2), nullptr, 16));
+      const auto number = static_cast<unsigned>(std::stoul(unit, nullptr, 16));
+      read.bytes_of[utf8(number)] = bytes;
+      if (direction == "both") read.unit_of[bytes] = number;
+    }
+    return read;
+  }();
+  return page;
+}
+
+std::string utf8(unsigned unit) {
+  const auto tail = [unit](unsigned shift) {
+    return static_cast<char>(0x80 | (unit >> shift & 63));
+  };
+  if (unit < 0x80) return {static_cast<char>(unit)};
+  if (unit < 0x800) return {static_cast<char>(0xC0 | unit >> 6), tail(0)};
+  return {static_cast<char>(0xE0 | unit >> 12), tail(6), tail(0)};
+}
 
 void expect_conversions(const std::string& text) {
   SCOPED_TRACE(testing::PrintToString(text));

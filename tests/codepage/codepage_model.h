@@ -5,12 +5,13 @@
 
 #include <map>
 #include <string>
+#include <unordered_map>
 
 namespace zeph_test {
 
 struct CodePage {
-  std::map<unsigned, std::string> bytes_of;  // what a UTF-16 unit becomes
-  std::map<std::string, unsigned> unit_of;   // what one or two bytes become
+  std::unordered_map<std::string, std::string> bytes_of;  // what a unit in UTF-8 becomes
+  std::map<std::string, unsigned> unit_of;                // what one or two bytes become
 };
 
 const CodePage& code_page();

@@ -54,12 +54,3 @@ TEST(Splicing, SizeBoundsTheText) {
   }
   EXPECT_EQ(errno, 9);
 }
-
-TEST(AlarmText, OneHalfMayFillTheResult) {
-  for (const std::size_t size : {510u, 511u, 512u, 2000u}) {
-    char text[2001] = "";
-    std::string(size, 'a').copy(text, size);
-    Zeph_Strcat_Alarm_Append_Text(text, "b");
-    EXPECT_EQ(text, (std::string(size, 'a') + " b|").substr(0, 511));
-  }
-}
