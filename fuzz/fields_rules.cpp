@@ -52,9 +52,10 @@ void expect_fields(Cut cut, const std::string& text, std::size_t limit, const Fi
 }
 
 // The first blank ends field 1, before others blanks are skipped; a later field that is full ends
-// the split, and reading: nothing behind `text` bytes is looked at.
+// the split. Of the text is left what decides the fields: nothing behind it is looked at.
 Fields cut_at_blanks(std::size_t count, std::string& text, std::size_t limit) {
   Fields fields(count);
+  if (limit == 0) text.clear();
   std::size_t field = 0;
   for (std::size_t i = 0; i < text.size(); ++i) {
     std::string& now = fields[field];
@@ -113,7 +114,7 @@ Fields items_of(const std::string& list, char separator) {
 }
 
 void fields_from_the_left(Draw& draw) {
-  const std::size_t count = 2 + draw.below(4), limit = 1 + draw.below(draw.yes() ? 6 : 140);
+  const std::size_t count = 2 + draw.below(4), limit = draw.below(draw.yes() ? 7 : 141);
   const char delimiter = draw.yes() ? ',' : static_cast<char>(draw.byte());
   const std::string text = list_text(draw);
   const auto most = static_cast<int>(limit);

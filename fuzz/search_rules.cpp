@@ -160,7 +160,7 @@ void expect_comparison(const char* a, const char* b, bool exact, bool folded, Nu
 }
 
 void comparison(Draw& draw) {
-  const std::string a = draw.text(200, alphabets[draw.below(5)]);
+  const std::string a = draw.text(300, alphabets[draw.below(5)]);
   std::string b = draw.yes() ? folded(a) : a;
   if (!b.empty() && draw.yes()) b[draw.below(b.size())] = 'b';
   if (draw.below(4) == 0) b += 'b';
