@@ -51,12 +51,12 @@ inline Decimal read_decimal(const char* text) {
   const char* const begin = negative || *text == '+' ? text + 1 : text;
   std::uint64_t word = 0;
   std::int64_t exponent = 0;
-  const char* end = append_digits(begin, word);
+  const char* end = append_many_digits(begin, word);
   std::ptrdiff_t digits = end - begin;
   const bool has_point = *end == '.';
   if (has_point) {
     const char* const fraction = end + 1;
-    end = append_digits(fraction, word);
+    end = append_many_digits(fraction, word);
     exponent = fraction - end;
     digits += end - fraction;
   }

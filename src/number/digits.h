@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <limits>
 
+#include "number/digit_words.h"
+
 namespace zeph {
 
 // The digit that a byte stands for, more than 9 for any other byte.
@@ -17,9 +19,19 @@ constexpr unsigned int digit_of(char byte) {
 // So many digits never leave 64 bits.
 constexpr std::ptrdiff_t most_word_digits = std::numeric_limits<std::uint64_t>::digits10;
 
-// Appends the digits at `text` to the number in `word`, modulo 2^64, and returns their end. Four of
-// them take one step, as the chain of multiplications is what a long number waits for.
-inline const char* append_digits(const char* text, std::uint64_t& word) {
+// Appends the digits at `text` to the number in `word`, modulo its size, and returns their end. The
+// least work for few of them.
+template <typename Word>
+inline const char* append_digits(const char* text, Word& word) {
+  unsigned int digit = digit_of(*text);
+#pragma GCC unroll 4
+  for (; digit <= 9; digit = digit_of(*++text)) word = word * 10 + digit;
+  return text;
+}
+
+// The same for long numbers. Four digits take one step, as the chain of multiplications is what
+// they wait for.
+inline const char* append_many_digits(const char* text, std::uint64_t& word) {
   for (;; text += 4) {
     const unsigned int a = digit_of(text[0]);
     if (a > 9) return text;
@@ -40,6 +52,20 @@ inline const char* append_digits(const char* text, std::uint64_t& word) {
     }
     word = word * 10000 + (a * 1000 + b * 100 + c * 10 + d);
   }
+}
+
+// The same in a text that ends at `end`: up to 24 digits take two wide steps.
+inline const char* append_digits(const char* text, const char* end, std::uint64_t& word) {
+  std::uint64_t number;
+  if (end - text >= 16 && read_sixteen_digits(text, number)) {
+    word = word * 10000000000000000 + number;
+    text += 16;
+  }
+  if (end - text >= 8 && read_eight_digits(text, number)) {
+    word = word * 100000000 + number;
+    text += 8;
+  }
+  return append_digits(text, word);
 }
 
 // The white space of the process's locale, which the runtime's atoi and atof skip.

@@ -29,27 +29,19 @@ constexpr auto hex_values = [] {
   return values;
 }();
 
-// What a byte is worth as a digit, `base` or more for a foreign byte.
-template <unsigned int base>
-constexpr unsigned int digit_value(char byte) {
-  if constexpr (base == 10) return digit_of(byte);
-  return hex_values[static_cast<unsigned char>(byte)];
+// Stores the value of a whole body: modulo 2^32, and an 8-bit value is the low byte of that.
+template <typename Value>
+inline bool store_whole(unsigned int word, bool negative, Value& value) {
+  const unsigned int sign = negative;
+  value = static_cast<Value>((word ^ (0 - sign)) + sign);
+  return true;
 }
 
-// Folds the whole body and negates the result. The value is stored before the next byte is read,
-// so that at a foreign byte it holds the digits in front of it. All arithmetic runs modulo 2^32,
-// and an 8-bit value is its low byte.
-template <unsigned int base, typename Value>
-bool fold_body(const char* body, bool negative, Value& value) {
-  unsigned int word = 0;
-  for (; *body != '\0'; ++body) {
-    const unsigned int digit = digit_value<base>(*body);
-    if (digit >= base) return false;
-    word = word * base + digit;
-    value = static_cast<Value>(word);
-  }
-  if (negative) value = static_cast<Value>(0 - word);
-  return true;
+// At a foreign byte the value holds the digits in front of it, without a sign.
+template <typename Value>
+inline bool store_part(unsigned int word, Value& value) {
+  value = static_cast<Value>(word);
+  return false;
 }
 
 bool has_hex_prefix(const char* body) {
@@ -58,19 +50,37 @@ bool has_hex_prefix(const char* body) {
 
 // The 8-bit grammar: decimal digits alone.
 bool read_small_integer(const char* text, char& value) {
-  value = 0;
   const bool negative = *text == '-';
-  return fold_body<10>(text + negative, negative, value);
+  unsigned int word = 0;
+  text = append_digits(text + negative, word);
+  return *text == '\0' ? store_whole(word, negative, value) : store_part(word, value);
+}
+
+// Hexadecimal digits, or a foreign byte behind the decimal ones, whose number is `word`. It stays
+// out of the way of the decimal numbers.
+[[gnu::noinline]] bool read_other_integer(const char* text, unsigned int word, int& value) {
+  const bool negative = *text == '-';
+  const char* body = text + negative;
+  if (!has_hex_prefix(body)) return store_part(word, value);
+  word = 0;
+  for (body += 2; *body != '\0'; ++body) {
+    const unsigned int digit = hex_values[static_cast<unsigned char>(*body)];
+    if (digit == foreign) return store_part(word, value);
+    word = word * 16 + digit;
+  }
+  return store_whole(word, negative, value);
 }
 
 // The last eight hexadecimal digits make the value, so they are looked for from the end on.
 int last_hex_digits(const char* begin, const char* end) {
-  unsigned int word = 0;
-  for (unsigned int shift = 0; shift < 32 && end != begin;) {
-    const unsigned int digit = digit_value<16>(*--end);
+  unsigned int word = 0, shift = 0;
+#pragma GCC unroll 4
+  while (end != begin) {
+    const unsigned int digit = hex_values[static_cast<unsigned char>(*--end)];
     if (digit == foreign) continue;
     word |= digit << shift;
     shift += 4;
+    if (shift == 32) break;
   }
   return static_cast<int>(word);
 }
@@ -81,7 +91,7 @@ int leading_integer(const char* text) {
   const bool negative = *digits == '-';
   if (negative || *digits == '+') ++digits;
   std::uint64_t word = 0;
-  const char* const end = append_digits(digits, word);
+  const char* const end = append_many_digits(digits, word);
   if (end - digits <= most_word_digits && word <= std::numeric_limits<int>::max()) {
     const auto magnitude = static_cast<int>(word);
     return negative ? -magnitude : magnitude;
@@ -90,15 +100,15 @@ int leading_integer(const char* text) {
   return std::atoi(text);
 }
 
-}  // namespace
-
-bool read_integer(const char* text, int& value) {
-  value = 0;
+inline bool read_integer(const char* text, int& value) {
   const bool negative = *text == '-';
-  const char* const body = text + negative;
-  if (has_hex_prefix(body)) return fold_body<16>(body + 2, negative, value);
-  return fold_body<10>(body, negative, value);
+  unsigned int word = 0;
+  const char* const stop = append_digits(text + negative, word);
+  if (*stop != '\0') return read_other_integer(text, word, value);
+  return store_whole(word, negative, value);
 }
+
+}  // namespace
 
 bool read_integer_slice(const char* text, int start, int count, int& value) {
   return read_slice(text, start, count,
@@ -146,7 +156,7 @@ bool Zeph_To_Int(const char* text, int minimum, int maximum, int* value) {
 }
 
 bool Zeph_To_Int(const std::string& text, int minimum, int maximum, int* value) {
-  return Zeph_To_Int(text.c_str(), minimum, maximum, value);
+  return zeph::read_integer(text.c_str(), *value) && zeph::within_bounds(minimum, *value, maximum);
 }
 
 bool Zeph_To_Int(const char* text, int minimum, int maximum, int* value, int start, int count) {

@@ -4,12 +4,9 @@
 
 namespace zeph {
 
-// True if the whole byte text is integer text; the empty body is one, of value 0. The value, modulo
-// 2^32, is stored digit by digit: at a foreign byte it holds the digits read so far, unsigned.
-bool read_integer(const char* text, int& value);
-
-// The same over `count` bytes from `start` on. A refused work buffer is reported, gives false, and
-// leaves the value as it was.
+// True if `count` bytes from `start` on are integer text; the empty body is one, of value 0. The
+// value, modulo 2^32, is stored in either case: at a foreign byte it holds the digits in front of
+// it, unsigned. A refused work buffer is reported, gives false, and leaves the value as it was.
 bool read_integer_slice(const char* text, int start, int count, int& value);
 
 }  // namespace zeph
