@@ -1,6 +1,8 @@
 #include "number/real_text.h"
 
+#include <cstddef>
 #include <cstdlib>
+#include <cstring>
 
 #include "frame/decimal_point.h"
 #include "frame/formatted_text.h"
@@ -49,19 +51,100 @@ namespace {
   return scanned;
 }
 
-}  // namespace
+// Has the last word on a number with a point that is stored: in another locale it is another one.
+// The locale is asked last, so that nothing waits for the answer, and in a function of its own, so
+// that the callers need no room on the stack.
+[[gnu::noinline]] bool confirm_point(const char* text, double& value) {
+  if (!decimal_point_is_dot()) value = scan_real(text);
+  return true;
+}
 
-bool read_real(const char* text, double& value) {
+inline bool store_real(const char* text, double magnitude, bool has_point, double& value) {
+  value = *text == '-' ? -magnitude : magnitude;
+  return has_point ? confirm_point(text, value) : true;
+}
+
+// Any text, from its start. The readers below are for most numbers and leave all others to it. One
+// calls the next as its last deed, with all that it knows in registers.
+[[gnu::noinline]] bool read_any_real(const char* text, double& value) {
   const Decimal number = read_decimal(text);
   // A text that is one number from end to end cannot fail the test.
   const bool whole = number.end != text && *number.end == '\0';
   if (!whole && judge_real(text) == 0) return false;
-  value = number.has_point && !decimal_point_is_dot() ? scan_real(text) : number.value;
-  return true;
+  value = number.value;
+  return number.has_point ? confirm_point(text, value) : true;
 }
 
+// Whether the digits of a text up to their end, a point among them or not, surely fit a word.
+inline bool fits_word(const char* text, const char* end, bool has_point) {
+  if (end - text <= most_word_digits + has_point) return true;
+  while (*text == '0' || *text == '.' || *text == '-') ++text;
+  return end - text <= most_word_digits;
+}
+
+// Goes on behind the digits, which end at `end` and make `word`. At least one has been read.
+inline bool read_behind_digits(const char* text, const char* end, std::int64_t exponent,
+                               bool has_point, std::uint64_t word, double& value) {
+  if (!fits_word(text, end, has_point)) return read_any_real(text, value);
+  end = add_exponent(end, exponent);
+  double number;
+  const bool settled =
+      *end == '\0' && (scale_small(word, exponent, number) || scale_wide(word, exponent, number));
+  return settled ? store_real(text, number, has_point, value) : read_any_real(text, value);
+}
+
+[[gnu::noinline]] bool read_rest(const char* text, const char* end, std::int64_t exponent,
+                                 bool has_point, std::uint64_t word, double& value) {
+  return read_behind_digits(text, end, exponent, has_point, word, value);
+}
+
+[[gnu::noinline]] bool read_long_fraction(const char* text, const char* fraction,
+                                          const char* text_end, std::uint64_t word, double& value) {
+  const char* const end = append_digits(fraction, text_end, word);
+  if (end == fraction) return read_any_real(text, value);
+  return read_behind_digits(text, end, fraction - end, true, word, value);
+}
+
+// A number with a point. `fraction` is the place behind it; the digits in front make `word`.
+inline bool read_fraction(const char* text, const char* fraction, const char* text_end,
+                          std::uint64_t word, double& value) {
+  if (text_end - fraction >= 8) return read_long_fraction(text, fraction, text_end, word, value);
+  const char* const end = append_digits(fraction, word);
+  if (end == fraction) return read_any_real(text, value);
+  if (*end != '\0' || end - text > most_word_digits + 1 || !is_exact_double(word)) {
+    return read_rest(text, end, fraction - end, true, word, value);
+  }
+  return store_real(text, exact_double(word) / small_powers[end - fraction], true, value);
+}
+
+// The same where the end of the text is not known: it is looked for as far as most numbers go, and
+// without it the digits are read one by one.
+[[gnu::noinline]] bool read_fraction(const char* text, const char* fraction, std::uint64_t word,
+                                     double& value) {
+  constexpr std::size_t near = 32;
+  const void* const text_end = std::memchr(fraction, '\0', near);
+  return read_fraction(text, fraction, text_end ? static_cast<const char*>(text_end) : fraction,
+                       word, value);
+}
+
+// `text_end` is passed where it is known. The text may have a zero byte in front of it.
+template <typename... End>
+inline bool read_real(double& value, const char* text, End... text_end) {
+  const char* const begin = text + (*text == '-');
+  std::uint64_t word = 0;
+  const char* const end = append_digits(begin, word);
+  if (*end == '.') return read_fraction(text, end + 1, text_end..., word, value);
+  if (end == begin) return read_any_real(text, value);
+  if (*end != '\0' || end - text > most_word_digits) {
+    return read_rest(text, end, 0, false, word, value);
+  }
+  return store_real(text, static_cast<double>(word), false, value);
+}
+
+}  // namespace
+
 bool read_real_slice(const char* text, int start, int count, double& value) {
-  return read_slice(text, start, count, [&](const char* slice) { return read_real(slice, value); });
+  return read_slice(text, start, count, [&](const char* slice) { return read_real(value, slice); });
 }
 
 double leading_real(const char* text) {
@@ -73,9 +156,9 @@ double leading_real(const char* text) {
   }
   // Infinity, NaN, hexadecimal, another decimal point, or no number.
   const ErrorStateKeeper keeper;
-  char* end;
-  const double value = std::strtod(text, &end);
-  return end == text ? 0.0 : value;  // some runtimes make -0.0 of a '-' without a number
+  char* behind;
+  const double value = std::strtod(text, &behind);
+  return behind == text ? 0.0 : value;  // some runtimes make -0.0 of a '-' without a number
 }
 
 }  // namespace zeph
@@ -91,11 +174,11 @@ int Zeph_Double_Check(const std::string& text) {
 }
 
 bool Zeph_To_Double(const char* text, double* value) {
-  return zeph::read_real(text, *value);
+  return zeph::read_real(*value, text);
 }
 
 bool Zeph_To_Double(const std::string& text, double* value) {
-  return zeph::read_real(text.c_str(), *value);
+  return zeph::read_real(*value, text.c_str(), text.c_str() + text.size());
 }
 
 bool Zeph_To_Double(const char* text, double* value, int start, int count) {
@@ -107,11 +190,12 @@ bool Zeph_To_Double(const std::string& text, double* value, int start, int count
 }
 
 bool Zeph_To_Double(const char* text, double minimum, double maximum, double* value) {
-  return zeph::read_real(text, *value) && zeph::within_bounds(minimum, *value, maximum);
+  return zeph::read_real(*value, text) && zeph::within_bounds(minimum, *value, maximum);
 }
 
 bool Zeph_To_Double(const std::string& text, double minimum, double maximum, double* value) {
-  return zeph::read_real(text.c_str(), *value) && zeph::within_bounds(minimum, *value, maximum);
+  return zeph::read_real(*value, text.c_str(), text.c_str() + text.size()) &&
+         zeph::within_bounds(minimum, *value, maximum);
 }
 
 bool Zeph_To_Double(const char* text, double minimum, double maximum, double* value, int start,

@@ -8,11 +8,8 @@ namespace zeph {
 // 0 if the text fails the test, 2 if it passes and holds exactly one '-', else 1.
 int judge_real(const char* text);
 
-// Stores what the scan reads, 0.0 if it reads nothing. False, with the value as it was, if the text
-// fails the test.
-bool read_real(const char* text, double& value);
-
-// The same over `count` bytes from `start` on. A refused work buffer is reported and gives false.
+// Stores what the scan reads in `count` bytes from `start` on, 0.0 if it reads nothing. False, with
+// the value as it was, if they fail the test, or if a work buffer is refused, which is reported.
 bool read_real_slice(const char* text, int start, int count, double& value);
 
 // What the runtime's atof reads.
