@@ -108,6 +108,12 @@ inline bool read_integer(const char* text, int& value) {
   return store_whole(word, negative, value);
 }
 
+inline int judge_integer(const char* text) {
+  int value;
+  if (!read_integer(text, value)) return 0;
+  return *text == '-' ? 2 : 1;
+}
+
 }  // namespace
 
 bool read_integer_slice(const char* text, int start, int count, int& value) {
@@ -126,13 +132,11 @@ bool Zeph_Char_Num_Check(const char* text, char minimum, char maximum, char* val
 }
 
 int Zeph_Int_Check(const char* text) {
-  int value;
-  if (!zeph::read_integer(text, value)) return 0;
-  return *text == '-' ? 2 : 1;
+  return zeph::judge_integer(text);
 }
 
 int Zeph_Int_Check(const std::string& text) {
-  return Zeph_Int_Check(text.c_str());
+  return zeph::judge_integer(text.c_str());
 }
 
 bool Zeph_To_Int(const char* text, int* value) {
@@ -166,7 +170,8 @@ bool Zeph_To_Int(const char* text, int minimum, int maximum, int* value, int sta
 
 bool Zeph_To_Int(const std::string& text, int minimum, int maximum, int* value, int start,
                  int count) {
-  return Zeph_To_Int(text.c_str(), minimum, maximum, value, start, count);
+  return zeph::read_integer_slice(text.c_str(), start, count, *value) &&
+         zeph::within_bounds(minimum, *value, maximum);
 }
 
 int Zeph_Ext_Int_From_Str(const char* text, int start, int count) {

@@ -75,6 +75,11 @@ inline bool store_real(const char* text, double magnitude, bool has_point, doubl
   return number.has_point ? confirm_point(text, value) : true;
 }
 
+// Whether no number has the byte, nor what the test takes for one.
+inline bool is_foreign(char byte) {
+  return digit_of(byte) > 9 && std::strchr(".eE+-", byte) == nullptr;
+}
+
 // Whether the digits of a text up to their end, a point among them or not, surely fit a word.
 inline bool fits_word(const char* text, const char* end, bool has_point) {
   if (end - text <= most_word_digits + has_point) return true;
@@ -87,6 +92,7 @@ inline bool read_behind_digits(const char* text, const char* end, std::int64_t e
                                bool has_point, std::uint64_t word, double& value) {
   if (!fits_word(text, end, has_point)) return read_any_real(text, value);
   end = add_exponent(end, exponent);
+  if (is_foreign(*end)) return false;
   double number;
   const bool settled =
       *end == '\0' && (scale_small(word, exponent, number) || scale_wide(word, exponent, number));
