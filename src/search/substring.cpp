@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "frame/fixed_buffers.h"
+#include "frame/string_pieces.h"
 #include "scan/last_byte.h"
 #include "zeph.h"
 
@@ -23,7 +24,7 @@ std::size_t bytes_wanted(int count, std::size_t there) {
 
 // Replaces `out` by a piece of `text`, which may be the same object.
 void assign_slice(std::string& out, const std::string& text, std::size_t start, int count) {
-  out.assign(text.data() + start, bytes_wanted(count, text.size() - start));
+  put_string(out, text.data() + start, bytes_wanted(count, text.size() - start));
 }
 
 }  // namespace
@@ -52,10 +53,10 @@ bool Zeph_Get_SubString(const std::string& text, int start, int count, std::stri
 }
 
 bool Zeph_Get_SubString(const std::string& text, char open, char close, std::string& out) {
-  const std::size_t from = text.find(open);
-  const std::size_t to = text.find(close);
+  const std::size_t from = zeph::place_of(text, open);
+  const std::size_t to = zeph::place_of(text, close);
   if (from == std::string::npos || to == std::string::npos || from + 1 >= to) return false;
-  out.assign(text.data() + from + 1, to - from - 1);
+  zeph::put_string(out, text.data() + from + 1, to - from - 1);
   return true;
 }
 
