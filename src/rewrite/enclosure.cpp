@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "frame/fixed_buffers.h"
+#include "frame/string_pieces.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -32,10 +33,19 @@ MarkedEnds marked_ends(std::string_view text, IsHead is_head, IsTail is_tail) {
   return {!text.empty() && is_head(text.front()), text.size() > 1 && is_tail(text.back())};
 }
 
-// Each end by itself.
+// What is left of a text, each end by itself.
+std::string_view stripped(std::string_view text, MarkedEnds ends) {
+  const std::size_t head = ends.head;
+  return {text.data() + head, text.size() - head - ends.tail};
+}
+
 void strip(std::string& text, MarkedEnds ends) {
-  if (ends.tail) text.pop_back();
-  if (ends.head) text.erase(0, 1);
+  if (ends.head) {
+    const std::string_view left = stripped(text, ends);
+    put_string(text, left.data(), left.size());
+  } else if (ends.tail) {
+    text.erase(text.size() - 1);
+  }
 }
 
 void strip(char* text, std::size_t size, MarkedEnds ends) {
@@ -63,23 +73,29 @@ bool both(MarkedEnds ends) {
   return ends.head && ends.tail;
 }
 
+// For what stands behind a quote. By itself, so that any other text is refused without a register
+// saved.
+[[gnu::noinline]] bool put_up_to_quote(const char* text, std::size_t limit, char* out) {
+  const std::size_t size = strnlen(text, limit + 2);
+  if (size == 0 || size > limit + 1 || text[size - 1] != double_quote) return false;
+  put_text(out, text, size - 1);
+  return true;
+}
+
 }  // namespace
 }  // namespace zeph
 
 namespace Orbane {
 
 void Zeph_String_Check(char* text) {
+  if (*text != zeph::double_quote) return;
   const std::size_t size = std::strlen(text);
   if (zeph::both(zeph::quoted_ends({text, size}))) zeph::put_text(text, text + 1, size - 2);
 }
 
 bool Zeph_String_Check(const char* text, int limit, char* out) {
-  if (limit < 0) return false;
-  const std::size_t longest = static_cast<std::size_t>(limit) + 2;
-  const std::size_t size = strnlen(text, longest + 1);
-  if (size > longest || !zeph::both(zeph::quoted_ends({text, size}))) return false;
-  zeph::put_text(out, text + 1, size - 2);
-  return true;
+  if (limit < 0 || *text != zeph::double_quote) return false;
+  return zeph::put_up_to_quote(text + 1, static_cast<std::size_t>(limit), out);
 }
 
 void Zeph_String_Check(std::string& text) {
@@ -87,9 +103,9 @@ void Zeph_String_Check(std::string& text) {
 }
 
 bool Zeph_String_Check(const std::string& text, std::string& out) {
-  if (&out != &text) out = text;
-  const zeph::MarkedEnds ends = zeph::quoted_ends(out);
-  zeph::strip(out, ends);
+  const zeph::MarkedEnds ends = zeph::quoted_ends(text);
+  const std::string_view left = zeph::stripped(text, ends);
+  zeph::put_string(out, left.data(), left.size());
   return zeph::both(ends);
 }
 
