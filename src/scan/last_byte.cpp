@@ -1,6 +1,7 @@
 #include "scan/last_byte.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "scan/byte_mask.h"
 #include "scan/wide.h"
@@ -28,11 +29,10 @@ bool any_of_64(const char* from, __m128i a, __m128i b) {
   return bits_of(_mm_or_si128(front, back)) != 0;
 }
 
-}  // namespace
-
-std::size_t behind_last_far(const char* text, std::size_t size, char a, char b) {
+// In front of the bytes that have been looked at.
+std::size_t behind_last_in_front(const char* text, std::size_t size, char a, char b) {
 #ifdef ZEPH_HAS_AVX2
-  if (size >= 256 && has_avx2()) size = behind_last_128_avx2(text, size, a, b);
+  if (size >= 128 && has_avx2()) size = behind_last_128_avx2(text, size, a, b);
 #endif
   const __m128i all_a = all_16(a), all_b = all_16(b);
   while (size > mask_bytes && !any_of_64(text + size - mask_bytes, all_a, all_b)) {
@@ -42,6 +42,21 @@ std::size_t behind_last_far(const char* text, std::size_t size, char a, char b) 
   const std::size_t front = size - std::min(size, mask_bytes);
   const std::size_t behind = behind_last(text + front, size - front, a, b);
   return behind == 0 ? 0 : front + behind;
+}
+
+}  // namespace
+
+std::size_t behind_last_far(const char* text, std::size_t size, char a, char b) {
+  const std::size_t front = size - mask_bytes;
+  if (const std::size_t near = behind_last(text + front, mask_bytes, a, b)) return front + near;
+#ifdef __GLIBC__
+  // For one byte this runtime's own way back is the faster one.
+  if (a == b) {
+    const void* const at = memrchr(text, a, front);
+    return at ? static_cast<std::size_t>(static_cast<const char*>(at) - text) + 1 : 0;
+  }
+#endif
+  return behind_last_in_front(text, front, a, b);
 }
 
 #endif
