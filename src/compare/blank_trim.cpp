@@ -1,6 +1,7 @@
 // Blanks off the ends, in place: what stays is moved once, however many blanks there are.
 #include <cstring>
 
+#include "frame/string_pieces.h"
 #include "scan/move_bytes.h"
 #include "scan/other_byte.h"
 #include "zeph.h"
@@ -15,21 +16,16 @@ struct Kept {
   std::size_t begin, end;
 };
 
-Kept without_head(const char* text, std::size_t size) {
-  return {run_at_front(text, size, blank), size};
-}
-
 Kept without_tail(const char* text, std::size_t size) {
   return {0, size - run_at_back(text, size, blank)};
 }
 
-// `begin` blanks at the front are known. A text of blanks has lost all of them at its head.
+// A text of blanks has lost all of them at its head.
 Kept without_both(const char* text, std::size_t size, std::size_t begin) {
-  begin += run_at_front(text + begin, size - begin, blank);
   return {begin, size - run_at_back(text + begin, size - begin, blank)};
 }
 
-// A few bytes cost less than the call that clears them.
+// For at least one byte in front of a zero. A few cost less than the call that clears them.
 void clear_bytes(char* bytes, std::size_t size) {
   if (size > 16) {
     std::memset(bytes, '\0', size);
@@ -40,8 +36,24 @@ void clear_bytes(char* bytes, std::size_t size) {
     std::memset(bytes, '\0', 4);
     std::memset(bytes + size - 4, '\0', 4);
   } else {
-    for (std::size_t i = 0; i < size; ++i) bytes[i] = '\0';
+    // The byte behind them is a terminator already.
+    std::memset(bytes, '\0', 2);
+    std::memset(bytes + size - 1, '\0', 2);
   }
+}
+
+// A text and its blanks at the front.
+struct HeadedText {
+  std::size_t size, begin;
+};
+
+// A few blanks are passed before the end is looked for, from behind them on.
+HeadedText headed(const char* text) {
+  std::size_t begin = 0;
+  while (begin < near_run && text[begin] == blank) ++begin;
+  const std::size_t size = begin + std::strlen(text + begin);
+  if (begin == near_run) begin = run_at_front(text, size, blank);
+  return {size, begin};
 }
 
 // Moves the bytes that stay to the front. From their end up to the old terminator all bytes become
@@ -55,8 +67,11 @@ void keep_in_text(char* text, std::size_t size, Kept kept) {
 }
 
 void keep_in_string(std::string& text, Kept kept) {
-  text.erase(kept.end);
-  text.erase(0, kept.begin);
+  if (kept.begin == 0) {
+    text.erase(kept.end);
+  } else {
+    put_string(text, text.data() + kept.begin, kept.end - kept.begin);
+  }
 }
 
 }  // namespace
@@ -75,24 +90,23 @@ void Zeph_Del_TailSpace(std::string& text) {
 
 void Zeph_Del_HeadSpace(char* text) {
   if (*text != zeph::blank) return;
-  const std::size_t size = std::strlen(text);
-  zeph::keep_in_text(text, size, zeph::without_head(text, size));
+  const auto [size, begin] = zeph::headed(text);
+  zeph::keep_in_text(text, size, {begin, size});
 }
 
 void Zeph_Del_HeadSpace(std::string& text) {
-  zeph::keep_in_string(text, zeph::without_head(text.data(), text.size()));
+  const std::size_t begin = zeph::run_at_front(text.data(), text.size(), zeph::blank);
+  zeph::keep_in_string(text, {begin, text.size()});
 }
 
 void Zeph_Trimed(char* text) {
-  // A few blanks at the front are passed before the end is looked for, from behind them on.
-  std::size_t begin = 0;
-  while (begin < zeph::near_run && text[begin] == zeph::blank) ++begin;
-  const std::size_t size = begin + std::strlen(text + begin);
+  const auto [size, begin] = zeph::headed(text);
   zeph::keep_in_text(text, size, zeph::without_both(text, size, begin));
 }
 
 void Zeph_Trimed(std::string& text) {
-  zeph::keep_in_string(text, zeph::without_both(text.data(), text.size(), 0));
+  const std::size_t begin = zeph::run_at_front(text.data(), text.size(), zeph::blank);
+  zeph::keep_in_string(text, zeph::without_both(text.data(), text.size(), begin));
 }
 
 }  // namespace Orbane
