@@ -7,35 +7,54 @@
 namespace zeph {
 namespace {
 
-// Shorter texts are folded byte by byte in less time than it takes to look at the locale.
+// In a shorter text each byte is looked up in less time than it takes to look at the whole table.
 constexpr std::size_t worth_a_look = 12;
 
-// `out` may be `from`.
-void put_fold(LetterCase to, char* out, const char* from, std::size_t size) {
-  if (size >= worth_a_look && locale_folds_ascii(to)) return put_ascii_fold(to, out, from, size);
-  const LocaleFold fold(to);
-  std::size_t i = 0;
-  for (; size - i >= 4; i += 4) {
-    const char a = fold(from[i]), b = fold(from[i + 1]);
-    const char c = fold(from[i + 2]), d = fold(from[i + 3]);
-    out[i] = a, out[i + 1] = b, out[i + 2] = c, out[i + 3] = d;
-  }
-  for (; i < size; ++i) out[i] = fold(from[i]);
+// The locale of nearly every process, found out by its name alone.
+bool in_c_locale() {
+  return std::strcmp(fold_locale_name(), "C") == 0;
 }
 
+// `out` may be `from`, here and below.
+[[gnu::noinline]] void put_long_ascii_fold(LetterCase to, char* out, const char* from,
+                                           std::size_t size) {
+  put_ascii_fold(to, out, from, size);
+}
+
+[[gnu::noinline]] void put_locale_fold(LetterCase to, char* out, const char* from,
+                                       std::size_t size) {
+  const bool ascii = size >= worth_a_look && all_fold_as_ascii(to);
+  if (ascii) return put_long_ascii_fold(to, out, from, size);
+  const LocaleFold fold(to);
+  for (std::size_t i = 0; i < size; ++i) out[i] = fold(from[i]);
+}
+
+void put_fold(bool c_locale, LetterCase to, char* out, const char* from, std::size_t size) {
+  if (!c_locale) return put_locale_fold(to, out, from, size);
+  // A text that has just been written is read in pieces as wide as those it was written in.
+  if (size > 64) return put_long_ascii_fold(to, out, from, size);
+  put_ascii_fold_baseline(to, out, from, size);
+}
+
+// The locale first: what is known of the text then need not be kept over that call.
 void fold_text(LetterCase to, const char* source, char* target) {
+  const bool c_locale = in_c_locale();
   const std::size_t size = std::strlen(source);
-  put_fold(to, target, source, size);
   target[size] = '\0';
+  put_fold(c_locale, to, target, source, size);
 }
 
 void fold_string(LetterCase to, std::string& text) {
-  put_fold(to, &text[0], text.data(), text.size());
+  put_fold(in_c_locale(), to, &text[0], text.data(), text.size());
 }
 
 void fold_string(LetterCase to, const std::string& source, std::string& target) {
-  if (&source != &target) target.assign(source);
-  fold_string(to, target);
+  if (source.size() > target.size()) {
+    target.assign(source);
+  } else {
+    target.erase(source.size());
+  }
+  put_fold(in_c_locale(), to, &target[0], source.data(), source.size());
 }
 
 }  // namespace
