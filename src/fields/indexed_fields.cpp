@@ -27,16 +27,22 @@ const char* skip_separators(const char* text, char separator) {
   return text;
 }
 
-// Copies word number `index`; words are what stands between runs of separators.
-void put_word(char* out, const char* text, char separator, int index, std::size_t limit) {
-  for (; index >= 0; --index) {
-    text = skip_separators(text, separator);
-    const char* const end = find_byte_or_end(text, separator);
-    if (index == 0) return put_field(out, text, end, limit);
-    if (*end == '\0') break;
-    text = end;
+// Behind that many words, or the terminator; words are what stands between runs of separators.
+[[gnu::noinline]] const char* skip_words(const char* text, char separator, int count) {
+  for (; count > 0 && *text != '\0'; --count) {
+    text = find_byte_or_end(skip_separators(text, separator), separator);
   }
-  *out = '\0';
+  return text;
+}
+
+void put_word(char* out, const char* text, char separator, int index, std::size_t limit) {
+  if (index < 0) {
+    *out = '\0';
+    return;
+  }
+  if (index > 0) text = skip_words(text, separator, index);
+  text = skip_separators(text, separator);
+  put_field(out, text, find_byte_or_end(text, separator), limit);
 }
 
 int to_index(std::size_t count) {
@@ -90,13 +96,13 @@ class Separators {
 };
 
 // Item by item, from the one that starts at `begin` on.
-template <typename Equals>
-int walk_to_item(const List& list, std::size_t begin, Equals equals) {
+template <typename Value>
+int walk_to_item(const List& list, std::size_t begin, Value sought) {
   const View text = list.text;
   Separators separators(list, begin);
   for (std::size_t index = list.items_before(begin); begin < text.size(); ++index) {
     const std::size_t end = separators.next();
-    if (equals(text.substr(begin, end - begin))) return to_index(index);
+    if (sought.equals(text.substr(begin, end - begin))) return to_index(index);
     begin = end + 1;
     if (list.run == SeparatorRun::each_cuts) continue;
     while (begin < text.size() && text[begin] == list.separator) begin = separators.next() + 1;
@@ -104,14 +110,64 @@ int walk_to_item(const List& list, std::size_t begin, Equals equals) {
   return -1;
 }
 
-// `find` gives the place of the value in a piece of the list. The value is searched for as a whole,
-// and the separators in front of it are counted. Where it turns up inside of other items, these are
-// looked at one by one from there on.
-template <typename Find, typename Equals>
-int find_item(const List& list, View value, Find find, Equals equals) {
-  if (list.separator == '\0' || value.empty()) return walk_to_item(list, 0, equals);
+// What a value is equal to: the same bytes, or letters of the other case as well.
+struct ExactValue {
+  View value;
+
+  bool equals(View item) const {
+    return item == value;
+  }
+  std::size_t find_in(View text) const {
+    return find_needle(text, value);
+  }
+  std::uint64_t places_of_last(View text) const {
+    return byte_mask(text.data(), text.size(), value.back());
+  }
+};
+struct FoldedValue {
+  View value;
+
+  bool equals(View item) const {
+    return item.size() == value.size() && strncasecmp(item.data(), value.data(), item.size()) == 0;
+  }
+  std::size_t find_in(View text) const {
+    return find_needle_ignoring_case(text, value);
+  }
+  std::uint64_t places_of_last(View text) const {
+    const auto places = [text, this](LetterCase to) {
+      return byte_mask(text.data(), text.size(), ascii_fold(to, value.back()));
+    };
+    return places(LetterCase::lower) | places(LetterCase::upper);
+  }
+};
+
+// For less text than one mask covers: the places where an item of the value's size starts, and ends
+// as the value does, all at once.
+template <typename Value>
+int find_item_at_a_look(const List& list, Value sought) {
+  const View text = list.text;
+  const std::size_t size = sought.value.size();
+  if (size > text.size()) return -1;
+  const std::uint64_t separators = byte_mask(text.data(), text.size(), list.separator);
+  const std::uint64_t ends = separators | std::uint64_t{1} << text.size();
+  std::uint64_t begins = (separators << 1 | 1) & ends >> size;
+  if (begins != 0) begins &= sought.places_of_last(text) >> (size - 1);
+  for (; begins != 0; begins &= begins - 1) {
+    const std::size_t at = lowest_place(begins);
+    if (sought.equals(text.substr(at, size))) return to_index(list.items_before(at));
+  }
+  return -1;
+}
+
+// The value is searched for as a whole, and the separators in front of it are counted. Where it
+// turns up inside of other items, these are looked at one by one from there on.
+template <typename Value>
+int find_item(const List& list, Value sought) {
+  const View value = sought.value;
+  if (list.separator == '\0' || value.empty()) return walk_to_item(list, 0, sought);
   if (value.find(list.separator) != View::npos) return -1;
-  const std::size_t begin = find(list.text);
+  if (list.text.size() < mask_bytes) return find_item_at_a_look(list, sought);
+  const std::size_t begin = sought.find_in(list.text);
   if (begin == View::npos) return -1;
   if (list.is_item(begin, begin + value.size())) return to_index(list.items_before(begin));
   // The item around that place is another one, and it is the first that holds the value.
@@ -121,7 +177,7 @@ int find_item(const List& list, View value, Find find, Equals equals) {
   if (list.run == SeparatorRun::one_separator) {
     next = std::min(list.text.find_first_not_of(list.separator, next), list.text.size());
   }
-  return walk_to_item(list, next, equals);
+  return walk_to_item(list, next, sought);
 }
 
 // The interface promises two work buffers, with a report for each that the heap refuses, and no
@@ -133,29 +189,20 @@ int search_with_buffers(const char* list, char separator, SeparatorRun run, Sear
   return work.complete() ? search(List{text, separator, run}) : -1;
 }
 
-int find_exact(const char* list_text, char separator, SeparatorRun run, const char* value_text) {
-  return search_with_buffers(list_text, separator, run, [value_text](const List& list) {
-    const View value(value_text);
-    return find_item(
-        list, value, [value](View piece) { return find_needle(piece, value); },
-        [value](View item) { return item == value; });
+int find_exact(const char* list_text, char separator, SeparatorRun run, const char* value) {
+  return search_with_buffers(list_text, separator, run, [value](const List& list) {
+    return find_item(list, ExactValue{value});
   });
 }
 
-int find_folded(const char* list_text, char separator, SeparatorRun run, const char* value_text) {
-  return search_with_buffers(list_text, separator, run, [value_text](const List& list) {
-    const View value(value_text);
-    const auto equals = [value](View item) {
-      return item.size() == value.size() &&
-             strncasecmp(item.data(), value.data(), item.size()) == 0;
-    };
+int find_folded(const char* list_text, char separator, SeparatorRun run, const char* value) {
+  return search_with_buffers(list_text, separator, run, [value](const List& list) {
+    const FoldedValue sought{value};
     // A value in the other case must not run over a letter that separates.
     const bool letter = ascii_fold(LetterCase::lower, list.separator) !=
                         ascii_fold(LetterCase::upper, list.separator);
-    if (letter || !locale_folds_ascii(LetterCase::lower)) return walk_to_item(list, 0, equals);
-    return find_item(
-        list, value, [value](View piece) { return find_needle_ignoring_case(piece, value); },
-        equals);
+    if (letter || !locale_folds_ascii(LetterCase::lower)) return walk_to_item(list, 0, sought);
+    return find_item(list, sought);
   });
 }
 
