@@ -121,7 +121,8 @@ namespace {
 
 std::size_t find_short_needle(View haystack, View needle) {
 #ifdef ZEPH_HAS_AVX512
-  if (has_avx512()) return find_short_needle_avx512(haystack, needle);
+  // Below, a load of 64 lanes would wait for what has just been stored behind the text.
+  if (haystack.size() > 16 && has_avx512()) return find_short_needle_avx512(haystack, needle);
 #endif
   return find_short_needle_baseline(haystack, needle);
 }
