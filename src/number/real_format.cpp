@@ -197,8 +197,12 @@ char* put_with_dot(char* out, std::size_t size, double value, Format format) {
 
 }  // namespace
 
+char* put_fixed_real(char* out, double value, int decimals) {
+  return put_with_dot(out, longest_real, value, {std::chars_format::fixed, decimals});
+}
+
 std::size_t put_real(char (&out)[longest_real], double value) {
-  const char* const end = put_with_dot(out, sizeof out, value, {std::chars_format::fixed, 6});
+  const char* const end = put_fixed_real(out, value, 6);
   if (end) return static_cast<std::size_t>(end - out);
   format_bounded(out, sizeof out, "%f", value);
   return std::strlen(out);

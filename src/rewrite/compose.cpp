@@ -1,4 +1,5 @@
 // Texts and numbers appended to a byte text, and formats printed into a String.
+#include <algorithm>
 #include <charconv>
 #include <cstdarg>
 #include <cstring>
@@ -7,6 +8,7 @@
 #include "frame/fixed_buffers.h"
 #include "frame/formatted_text.h"
 #include "number/real_format.h"
+#include "rewrite/plain_print.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -23,58 +25,18 @@ inline char* append(char* text, const char* bytes, std::size_t size) {
   return append(text, digits, static_cast<std::size_t>(end - digits));
 }
 
-// Prints a format whose only directives are %s, %d, %i, %u, %c and %%, as most are, and returns the
-// end. NULL stands for every other case: another directive, no room up to `end`, NULL for a text, a
-// zero byte. What comes of those is the runtime's to say.
-char* print_plain(char* out, char* end, const char* format, std::va_list& arguments) {
-  const auto put_byte = [&](char byte) {
-    if (out == end || byte == '\0') return false;
-    *out++ = byte;
-    return true;
-  };
-  const auto put_number = [&](auto value) {
-    const auto [behind, error] = std::to_chars(out, end, value);
-    out = behind;
-    return error == std::errc();
-  };
-  const auto put_byte_text = [&](const char* text) {
-    const std::size_t size = text ? std::strlen(text) : 0;
-    if (!text || size > static_cast<std::size_t>(end - out)) return false;
-    std::memcpy(out, text, size);
-    out += size;
-    return true;
-  };
-  const auto put_directive = [&](char directive) {
-    switch (directive) {
-      case 's':
-        return put_byte_text(va_arg(arguments, const char*));
-      case 'd':
-      case 'i':
-        return put_number(va_arg(arguments, int));
-      case 'u':
-        return put_number(va_arg(arguments, unsigned));
-      case 'c':
-        return put_byte(static_cast<char>(va_arg(arguments, int)));
-      default:
-        return directive == '%' && put_byte('%');
-    }
-  };
-  for (; *format != '\0'; ++format) {
-    if (!(*format == '%' ? put_directive(*++format) : put_byte(*format))) return nullptr;
-  }
-  return out;
-}
-
 // The printed text, cut to a buffer of `size` bytes, up to its first zero byte. Short texts are
 // printed once and take no heap but the result's; a longer one is printed again into the result.
 std::string splice(std::size_t size, const char* format, std::va_list arguments) {
-  char near[2048];
-  const std::size_t room = size < sizeof near ? size : sizeof near;
+  constexpr std::size_t most_near = 2048;
+  char near[most_near + PlainPrint::slack];
+  const std::size_t room = std::min(size, most_near);
+  PlainPrint plain(near, near + room - 1);
   std::va_list copy;
   va_copy(copy, arguments);
-  const char* const end = print_plain(near, near + room - 1, format, copy);
+  const bool printed = plain.print(format, copy);
   va_end(copy);
-  if (end) return std::string(near, static_cast<std::size_t>(end - near));
+  if (printed && (!plain.cut() || room == size)) return std::string(near, plain.end());
   const int length = format_list_bounded(near, room, format, arguments);
   const bool printed_whole = length >= 0 && static_cast<std::size_t>(length) < room;
   if (printed_whole || (room == size && length >= 0)) {

@@ -1,0 +1,189 @@
+// Formats of the printf family printed without the runtime, where they say what most do.
+#ifndef ZEPH_REWRITE_PLAIN_PRINT_H
+#define ZEPH_REWRITE_PLAIN_PRINT_H
+
+#include <algorithm>
+#include <charconv>
+#include <cstdarg>
+#include <cstring>
+
+#include "number/real_format.h"
+#include "scan/move_bytes.h"
+
+namespace zeph {
+
+// Directives of %s, %d, %i, %u, %x, %X, %c, %f and %%; of those but the last with '-', '0' and a
+// width below 100, and of %s and %f with one digit of precision. What comes of all others is the
+// runtime's to say, and of NULL for a text, a zero byte, and a directive behind the end of the
+// room.
+class PlainPrint {
+ public:
+  // What a number may take behind the room: it is printed whole before it is cut.
+  static constexpr std::size_t slack = longest_real;
+
+  // The room ends at `limit`.
+  PlainPrint(char* out, char* limit) : out_(out), limit_(limit) {}
+
+  // False if the runtime has to print the format. Inlined where the room is an array, a hardened
+  // build would check it at each piece.
+  [[gnu::noinline]] bool print(const char* format, std::va_list& arguments) {
+    for (; *format != '\0'; ++format) {
+      if (*format != '%') {
+        put_literal(*format);
+      } else if (cut_ || !put_directive(read_directive(++format), arguments)) {
+        return false;
+      }
+    }
+    return true;
+  }
+  char* end() const {
+    return out_;
+  }
+  // Whether the room was too small.
+  bool cut() const {
+    return cut_;
+  }
+
+ private:
+  struct Directive {
+    char kind;  // the zero byte where it is left to the runtime
+    bool left = false, zeros = false;
+    std::size_t width = 0;
+    int precision = -1;
+
+    bool bare() const {
+      return !left && !zeros && width == 0 && precision < 0;
+    }
+  };
+
+  static bool is_digit(char byte) {
+    return byte >= '0' && byte <= '9';
+  }
+
+  // Leaves `format` at the last byte of the directive.
+  static Directive read_directive(const char*& format) {
+    Directive directive{*format};
+    if (directive.kind > '9') return directive;
+    for (; *format == '-' || *format == '0'; ++format) {
+      (*format == '-' ? directive.left : directive.zeros) = true;
+    }
+    for (int i = 0; i < 2 && is_digit(*format); ++i, ++format) {
+      directive.width = directive.width * 10 + static_cast<std::size_t>(*format - '0');
+    }
+    if (*format == '.') {
+      directive.precision = is_digit(*++format) ? *format++ - '0' : 0;
+    }
+    directive.kind = *format;
+    return directive;
+  }
+
+  bool put_directive(const Directive& directive, std::va_list& arguments) {
+    switch (directive.kind) {
+      case 's':
+        return put_text(directive, va_arg(arguments, const char*));
+      case 'd':
+      case 'i':
+        return put_integer(directive, va_arg(arguments, int), 10);
+      case 'u':
+        return put_integer(directive, va_arg(arguments, unsigned), 10);
+      case 'x':
+      case 'X':
+        return put_integer(directive, va_arg(arguments, unsigned), 16);
+      case 'c':
+        return put_byte(directive, static_cast<char>(va_arg(arguments, int)));
+      case 'f':
+        return put_real(directive, va_arg(arguments, double));
+      default:
+        return directive.kind == '%' && directive.bare() && put_byte(directive, '%');
+    }
+  }
+
+  void put_literal(char byte) {
+    if (out_ == limit_) {
+      cut_ = true;
+    } else {
+      *out_++ = byte;
+    }
+  }
+
+  void put_bytes(const char* bytes, std::size_t size) {
+    const auto left = static_cast<std::size_t>(limit_ - out_);
+    if (size > left) {
+      cut_ = true;
+      size = left;
+    }
+    move_bytes(out_, bytes, size);
+    out_ += size;
+  }
+
+  // No more of the text is read than the room tells apart.
+  bool put_text(const Directive& directive, const char* text) {
+    if (!text || directive.zeros) return false;
+    std::size_t size;
+    if (directive.precision >= 0) {
+      size = strnlen(text, static_cast<std::size_t>(directive.precision));
+    } else {
+      const auto left = static_cast<std::size_t>(limit_ - out_);
+      size = strnlen(text, std::max(left + 1, directive.width));
+    }
+    const std::size_t blanks = directive.width > size ? directive.width - size : 0;
+    if (!directive.left) put_blanks(blanks);
+    put_bytes(text, size);
+    if (directive.left) put_blanks(blanks);
+    return true;
+  }
+
+  bool put_byte(const Directive& directive, char byte) {
+    if (byte == '\0' || directive.zeros || directive.precision >= 0) return false;
+    *out_ = byte;
+    return end_field(directive, out_ + 1);
+  }
+
+  template <typename Integer>
+  bool put_integer(const Directive& directive, Integer value, int base) {
+    if (directive.precision >= 0) return false;
+    char* const end = std::to_chars(out_, out_ + slack, value, base).ptr;
+    if (directive.kind == 'X') {
+      std::for_each(out_, end, [](char& digit) {
+        if (digit > '9') digit = static_cast<char>(digit - 'a' + 'A');
+      });
+    }
+    return end_field(directive, end);
+  }
+
+  bool put_real(const Directive& directive, double value) {
+    const int decimals = directive.precision < 0 ? 6 : directive.precision;
+    char* const end = put_fixed_real(out_, value, decimals);
+    return end && end_field(directive, end);
+  }
+
+  void put_blanks(std::size_t count) {
+    for (; count > 0; --count) put_literal(' ');
+  }
+
+  // A byte or a number stands up to `end`, maybe behind the limit. It is given its width.
+  bool end_field(const Directive& directive, char* end) {
+    const auto size = static_cast<std::size_t>(end - out_);
+    if (size < directive.width) {
+      const std::size_t more = directive.width - size;
+      if (directive.left) {
+        std::memset(end, ' ', more);
+      } else {
+        char* const digits = out_ + (directive.zeros && *out_ == '-');
+        move_bytes(digits + more, digits, static_cast<std::size_t>(end - digits));
+        std::memset(digits, directive.zeros ? '0' : ' ', more);
+      }
+      end += more;
+    }
+    cut_ = end > limit_;
+    out_ = cut_ ? limit_ : end;
+    return true;
+  }
+
+  char *out_, *limit_;
+  bool cut_ = false;
+};
+
+}  // namespace zeph
+
+#endif  // ZEPH_REWRITE_PLAIN_PRINT_H
