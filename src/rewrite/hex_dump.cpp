@@ -1,6 +1,7 @@
 // Bytes as rows of hexadecimal numbers, in two styles: as few lower-case digits as a byte needs in
 // Strings, two upper-case digits for each in owned buffers.
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 #include "frame/owned_buffers.h"
@@ -12,25 +13,38 @@ namespace {
 
 constexpr std::size_t block_size = 16;
 
-bool has_one_digit(char byte) {
+constexpr bool has_one_digit(char byte) {
   return static_cast<unsigned char>(byte) < 0x10;
 }
 
-// Writes each number with a blank behind it; returns the place behind the last blank.
-char* put_numbers(char* out, const char* bytes, std::size_t size) {
+// The number of each byte with a blank behind it, and how many bytes that is.
+struct Number {
+  char text[3];
+  char size;
+};
+
+constexpr auto numbers = [] {
+  std::array<Number, 256> all{};
+  const char* const digits = "0123456789abcdef";
+  for (std::size_t i = 0; i < 16; ++i) all[i] = {{digits[i], ' ', ' '}, 2};
+  for (std::size_t i = 16; i < 256; ++i) all[i] = {{digits[i / 16], digits[i % 16], ' '}, 3};
+  return all;
+}();
+
+// Writes each number with a blank behind it; returns the place behind the last blank. Each is
+// stored as a whole, so that up to two bytes behind that place are written. Inlined, a hardened
+// build would check the room at each number.
+[[gnu::noinline]] char* put_numbers(char* out, const char* bytes, std::size_t size) {
   for (std::size_t i = 0; i < size; ++i) {
-    char pair[3];
-    put_hex_pairs_portable(HexDigits::lower, pair, bytes + i, 1);
-    const std::size_t skipped = has_one_digit(bytes[i]) ? 1 : 0;
-    std::memcpy(out, pair + skipped, 3 - skipped);
-    out += 3 - skipped;
+    const Number& number = numbers[static_cast<unsigned char>(bytes[i])];
+    std::memcpy(out, &number, sizeof number);
+    out += number.size;
   }
   return out;
 }
 
 // Blocks whose bytes all take two digits are pairs; the others go number by number.
-std::string dump_numbers(const char* bytes, std::size_t size) {
-  if (size == 0) return std::string();
+std::string dump_long(const char* bytes, std::size_t size) {
   const auto short_ones =
       static_cast<std::size_t>(std::count_if(bytes, bytes + size, has_one_digit));
   std::string dump(3 * size - short_ones, '\0');
@@ -41,11 +55,24 @@ std::string dump_numbers(const char* bytes, std::size_t size) {
       put_hex_pairs(HexDigits::lower, out, bytes + i, n);
       out += 3 * n;
     } else {
-      out = put_numbers(out, bytes + i, n);
+      char block[3 * block_size + 1];
+      const auto length = static_cast<std::size_t>(put_numbers(block, bytes + i, n) - block);
+      std::memcpy(out, block, length);
+      out += length;
     }
   }
   dump.pop_back();  // the blank behind the last number
   return dump;
+}
+
+// A short dump is made beside the heap, so that nothing has to be counted first.
+std::string dump_numbers(const char* bytes, std::size_t size) {
+  constexpr std::size_t most_near = 128;
+  if (size > most_near) return dump_long(bytes, size);
+  if (size == 0) return std::string();
+  char near[3 * most_near + 1];
+  const char* const end = put_numbers(near, bytes, size);
+  return std::string(near, static_cast<std::size_t>(end - near) - 1);
 }
 
 // The dump takes 3 * size + 1 bytes. All of them are written: the last number has a zero byte in
