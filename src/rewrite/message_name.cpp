@@ -3,8 +3,10 @@
 #include <climits>
 #include <cstring>
 
+#include "frame/fixed_buffers.h"
+#include "frame/locale_fold.h"
+#include "frame/owned_buffers.h"
 #include "number/integer_text.h"
-#include "search/position.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -12,9 +14,19 @@ namespace {
 
 constexpr int largest_number = 255;
 
-// Reads one of the two numbers: the `count` bytes from `start` on, by the grammar of integer text.
-bool read_number(const char* text, int start, int count, int& number) {
-  return read_integer_slice(text, start, count, number) && number >= 0 && number <= largest_number;
+// The first byte that folds to `folded`, or the terminator.
+const char* find_folded(const char* text, char folded, const LocaleFold& fold) {
+  while (*text != '\0' && fold(*text) != folded) ++text;
+  return text;
+}
+
+// Reads one of the two numbers, by the grammar of integer text, in a work buffer.
+bool read_number(const char* begin, const char* end, int& number) {
+  const auto size = static_cast<std::size_t>(end - begin);
+  const WorkBuffers<1> work(size + 1);
+  if (!work.complete()) return false;
+  put_text(work[0], begin, size);
+  return read_integer(work[0], number) && number >= 0 && number <= largest_number;
 }
 
 }  // namespace
@@ -23,15 +35,15 @@ bool read_number(const char* text, int start, int count, int& number) {
 namespace Orbane {
 
 bool Zeph_Check_SxxFxx(const char* text, unsigned char* stream, unsigned char* function) {
-  // Only the first byte can be the S: bytes ahead of it are refused, so that nothing more is read.
-  if (zeph::find_position(text, {0, 1}, "S", zeph::CaseRule::ignored) != 0) return false;
-  const int f = zeph::find_position(text, "F", zeph::CaseRule::ignored);
-  if (f < 2) return false;
-  const std::size_t behind = std::strlen(text + f + 1);
+  const zeph::LocaleFold fold(zeph::LetterCase::lower);
+  if (fold(*text) != fold('S')) return false;
+  const char* const f = zeph::find_folded(text + 1, fold('F'), fold);
+  if (*f == '\0' || f - text < 2 || f - text > INT_MAX) return false;
+  const std::size_t behind = std::strlen(f + 1);
   if (behind == 0 || behind > INT_MAX) return false;
   int stream_number = 0, function_number = 0;
-  if (!zeph::read_number(text, 1, f - 1, stream_number)) return false;
-  if (!zeph::read_number(text, f + 1, static_cast<int>(behind), function_number)) return false;
+  if (!zeph::read_number(text + 1, f, stream_number)) return false;
+  if (!zeph::read_number(f + 1, f + 1 + behind, function_number)) return false;
   if (stream) *stream = static_cast<unsigned char>(stream_number);
   if (function) *function = static_cast<unsigned char>(function_number);
   return true;
