@@ -22,14 +22,22 @@ Removal remove_near(char* text, std::size_t size, char byte, Removal removal) {
   return removal;
 }
 
-// A far byte is looked for wide, and what lies in front of it is moved in one piece.
+// A far byte is looked for wide, and what lies in front of it is moved in one piece. Where less
+// than a step is left, it begins in front of the first hit.
 template <typename Dense>
 std::size_t remove_with(char* text, std::size_t size, char byte, Dense dense) {
   const auto find = [=](std::size_t from) {
     const void* const found = std::memchr(text + from, byte, size - from);
     return found ? static_cast<std::size_t>(static_cast<const char*>(found) - text) : size;
   };
-  const std::size_t first = find(0);
+  std::size_t first = 0;
+  if (size >= near) {
+    first = find(0);
+    if (first == size) return size;
+    first = std::min(first, size - near);
+  } else {
+    while (first < size && text[first] != byte) ++first;
+  }
   Removal removal{first, first};
   while (removal.next < size) {
     removal = dense(removal);

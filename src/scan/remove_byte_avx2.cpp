@@ -44,14 +44,21 @@ __attribute__((target("avx2"))) Removal remove_dense_byte_avx2(char* text, std::
     const __m256i bytes = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(from));
     auto places = static_cast<unsigned>(_mm256_movemask_epi8(_mm256_cmpeq_epi8(bytes, removed)));
     if (places == 0) break;
-    for (std::size_t i = 0; i < 32; i += 8, places >>= 8) {
+    // Eight bytes are written at a time; they end in front of the next step's.
+    const auto keep = [&](__m128i eight) __attribute__((target("avx2"))) {
       const unsigned here = places & 0xFF;
       const __m128i shuffle = load_8(packing.shuffles[here].data());
-      // Eight bytes are written; they end in front of the ones that are still to be read.
       auto* const to = reinterpret_cast<__m128i*>(text + removal.kept);
-      _mm_storel_epi64(to, _mm_shuffle_epi8(load_8(from + i), shuffle));
+      _mm_storel_epi64(to, _mm_shuffle_epi8(eight, shuffle));
       removal.kept += packing.kept[here];
-    }
+      places >>= 8;
+    };
+    // Taken from the register: a load of what was written in part would wait for the stores.
+    const __m128i low = _mm256_castsi256_si128(bytes), high = _mm256_extracti128_si256(bytes, 1);
+    keep(low);
+    keep(_mm_srli_si128(low, 8));
+    keep(high);
+    keep(_mm_srli_si128(high, 8));
   }
   return removal;
 }
