@@ -1,16 +1,15 @@
 // Bytes and pieces of a text are replaced or cut out in place.
 //
 // Some forms go on behind a change, others look again from the start of the text, so that what the
-// changes themselves form is changed too. Going back costs no walk from the start: behind a change
-// only the last bytes in front of it can take part in a new occurrence, one byte less than the
-// pattern has. They are searched again together with what follows, and nothing else is.
+// changes themselves form is changed too. Going back costs no walk from the start: a new occurrence
+// lies across the place of the last change. Nothing but the bytes around it is searched again.
 #include <algorithm>
 #include <cstring>
 #include <string_view>
 
-#include "frame/owned_buffers.h"
-#include "scan/find_needle.h"
-#include "scan/move_bytes.h"
+#include "rewrite/gap_text.h"
+#include "rewrite/occurrences.h"
+#include "scan/find_byte.h"
 #include "scan/remove_byte.h"
 #include "zeph.h"
 
@@ -20,199 +19,166 @@ namespace {
 using View = std::string_view;
 
 // Nothing is written in front of the first match, nor where there is none. From there on every byte
-// is stored, changed or not: that way the loop is wide.
+// of a longer text is stored, changed or not: that way the loop is wide.
 void replace_bytes(char* text, std::size_t size, char find, char replacement) {
+  constexpr std::size_t short_text = 16;
+  if (size <= short_text) {
+    for (char* const end = text + size; text != end; ++text) {
+      if (*text == find) *text = replacement;
+    }
+    return;
+  }
   std::size_t i = View(text, size).find(find);
   for (; i < size; ++i) text[i] = text[i] == find ? replacement : text[i];
 }
 
-// The next occurrence. Where they stand close together, a look at the first bytes is cheaper than
-// the start of a wide search.
-std::size_t find_next(View text, View pattern) {
-  constexpr std::size_t near = 16;
-  const std::size_t first = near < text.size() ? near : text.size();
-  for (std::size_t at = 0; at < first; ++at) {
-    if (text[at] == pattern[0] && text.compare(at, pattern.size(), pattern) == 0) return at;
+// The length of a byte text that is mostly a few bytes long.
+std::size_t short_length(const char* text) {
+  constexpr std::size_t near = 8;
+  for (std::size_t size = 0; size < near; ++size) {
+    if (text[size] == '\0') return size;
   }
-  const std::size_t at = find_needle(text.substr(first), pattern);
-  return at == View::npos ? at : at + first;
+  return near + std::strlen(text + near);
 }
 
-enum class AfterChange { look_again, go_on };
-
-// A text being rewritten inside one buffer: what is done, a gap, and what is still to be searched.
-//
-//     bytes  [ 0 .. done )  gap  [ rest .. end )
-struct GapText {
-  char* bytes;
-  std::size_t done, rest, end;
-
-  std::size_t gap() const {
-    return rest - done;
-  }
-  View unsearched() const {
-    return {bytes + rest, end - rest};
-  }
-  // Whether these few bytes are the last ones that are done.
-  bool ends_with(View top) const {
-    if (top.size() > done) return false;
-    std::size_t same = 0;
-    while (same < top.size() && bytes[done - 1 - same] == top[top.size() - 1 - same]) ++same;
-    return same == top.size();
-  }
-  // The next `n` bytes are done.
-  void pass(std::size_t n) {
-    if (done == rest) {
-      done = rest += n;
-      return;
+// Goes on behind each replacement: the `size` bytes at `text + from` become bytes at `text`.
+// Returns the new size. What is written never reaches the bytes that are still to be searched: the
+// replacement is no longer than the pattern, or `from` is all that the text grows.
+std::size_t rewrite_onward(Occurrences& occurrences, char* text, std::size_t from, std::size_t size,
+                           View replacement) {
+  const std::size_t step = occurrences.pattern().size();
+  GapText gap{text, 0, from, from + size};
+  for (std::size_t at; (at = occurrences.next(gap.rest - from)) != Occurrences::none;) {
+    const std::size_t n = from + at - gap.rest;
+    if (n != 0) gap.pass(n);
+    if (replacement.size() == 1) {
+      gap.bytes[gap.done++] = replacement[0];
+    } else {
+      put(gap.bytes + gap.done, replacement);
+      gap.done += replacement.size();
     }
-    move_bytes(bytes + done, bytes + rest, n);
-    done += n;
-    rest += n;
+    gap.rest += step;
   }
-  // The last `n` bytes that are done stand in front of the rest again.
-  void take_back(std::size_t n) {
-    done -= n;
-    rest -= n;
-    move_bytes(bytes + rest, bytes + done, n);
+  gap.pass(gap.end - gap.rest);
+  return gap.done;
+}
+
+// The occurrences of a pattern: how many, and where the first ones stand.
+struct Places {
+  static constexpr std::size_t most = 256;
+
+  std::size_t count, first[most];
+
+  explicit Places(Occurrences& occurrences) : count(0) {
+    for (std::size_t from = 0, at; (at = occurrences.next(from)) != Occurrences::none; ++count) {
+      if (count < most) first[count] = at;
+      from = at + occurrences.pattern().size();
+    }
   }
 };
 
-void put(char* to, View bytes) {
-  if (!bytes.empty()) move_bytes(to, bytes.data(), bytes.size());
-}
-
-// Changes the occurrence of `pattern` at index `at` of the rest. The gap has the room.
-void change(GapText& text, std::size_t at, View pattern, View replacement, AfterChange then) {
-  text.pass(at);
-  text.rest += pattern.size();
-  if (then == AfterChange::go_on) {
-    put(text.bytes + text.done, replacement);
-    text.done += replacement.size();
+// Each occurrence becomes the longer replacement, in a buffer with the room. A few are done from
+// the right to the left, so that each byte moves once. For many the text is moved up by all that it
+// grows and rewritten from there.
+void replace_by_longer(char* text, std::size_t size, const Places& places, View pattern,
+                       View replacement) {
+  std::size_t growth = places.count * (replacement.size() - pattern.size());
+  if (places.count > Places::most) {
+    std::memmove(text + growth, text, size);
+    Occurrences occurrences({text + growth, size}, pattern);
+    rewrite_onward(occurrences, text, growth, size, replacement);
     return;
   }
-  text.rest -= replacement.size();
-  put(text.bytes + text.rest, replacement);
-  text.take_back(std::min(pattern.size() - 1, text.done));
+  for (std::size_t i = places.count, end = size; i-- > 0; end = places.first[i]) {
+    const std::size_t behind = places.first[i] + pattern.size();
+    move_bytes(text + behind + growth, text + behind, end - behind);
+    growth -= replacement.size() - pattern.size();
+    put(text + places.first[i] + growth, replacement);
+  }
 }
 
-// Behind a change others are often near: byte by byte, the bytes that are done are a stack on whose
-// top the pattern shows up. Ends where none did for a while; the bytes that may start an occurrence
-// stand in front of the rest again. The replacement is shorter than the pattern.
-GapText change_near(GapText text, View pattern, View replacement) {
-  constexpr std::size_t quiet = 32;
-  const std::size_t last = pattern.size() - 1;
-  for (std::size_t left = quiet; left > 0 && text.rest != text.end; --left) {
-    const char next = text.bytes[text.rest++];
-    if (next != pattern[last] || !text.ends_with(pattern.substr(0, last))) {
-      text.bytes[text.done++] = next;
-      continue;
+// Whether no new occurrence can lie in a replacement, not even in part, so that one pass has the
+// answer of looking again. "No" may be wrong for long patterns; it only chooses between two ways to
+// the same bytes.
+bool stands_apart(View pattern, View replacement) {
+  if (replacement.empty()) return pattern.size() == 1;
+  if (pattern.size() > short_range || Occurrences(pattern, replacement).any()) return false;
+  const std::size_t most = std::min(pattern.size() - 1, replacement.size());
+  const char* const pattern_end = pattern.data() + pattern.size();
+  const char* const replacement_end = replacement.data() + replacement.size();
+  for (std::size_t n = 1; n <= most; ++n) {
+    if (same_short_bytes(replacement.data(), pattern_end - n, n)) return false;
+    if (same_short_bytes(replacement_end - n, pattern.data(), n)) return false;
+  }
+  return true;
+}
+
+// How many bytes of an occurrence stand in front of the gap, if one lies across it; the leftmost
+// one counts. The pattern is short.
+std::size_t part_in_front(const GapText& gap, View pattern) {
+  const char* const done = gap.bytes + gap.done;
+  const char* const rest = gap.bytes + gap.rest;
+  const std::size_t size = pattern.size(), left = gap.end - gap.rest;
+  for (std::size_t n = std::min(size - 1, gap.done); n > 0 && size - n <= left; --n) {
+    if (*(done - n) != pattern[0] || *rest != pattern[n]) continue;
+    if (same_short_bytes(done - n, pattern.data(), n) &&
+        same_short_bytes(rest, pattern.data() + n, size - n)) {
+      return n;
     }
-    text.done -= last;
-    text.rest -= replacement.size();
-    put(text.bytes + text.rest, replacement);
-    left = quiet;
   }
-  text.take_back(std::min(last, text.done));
-  return text;
+  return 0;
 }
 
-// Changes all occurrences and closes the gap. Returns the new size. The gap never gets too small:
-// the replacement is no longer than the pattern, or the gap was made for all changes together.
-std::size_t change_all(GapText text, View pattern, View replacement, AfterChange then) {
-  for (;;) {
-    const std::size_t at = find_next(text.unsearched(), pattern);
-    if (at == View::npos) break;
-    change(text, at, pattern, replacement, then);
-    // Where each byte asks for a comparison, only short patterns keep the whole linear.
-    if (then == AfterChange::look_again && pattern.size() <= 16) {
-      text = change_near(text, pattern, replacement);
+// The most bytes of a pattern for which each change may ask for every place across the gap.
+constexpr std::size_t short_pattern = 16;
+
+// Looks again behind each change, for a short pattern and a replacement that is shorter: what a
+// change has formed lies across the gap.
+std::size_t rewrite_again(Occurrences& occurrences, char* text, std::size_t size,
+                          View replacement) {
+  GapText gap{text, 0, 0, size};
+  const View pattern = occurrences.pattern();
+  for (std::size_t at; (at = occurrences.next(gap.rest)) != Occurrences::none;) {
+    gap.pass(at - gap.rest);
+    for (std::size_t front = 0;;) {
+      gap.done -= front;
+      gap.rest += pattern.size() - front;
+      gap.rest -= replacement.size();
+      put(gap.bytes + gap.rest, replacement);
+      if ((front = part_in_front(gap, pattern)) == 0) break;
+    }
+    if (!replacement.empty()) occurrences.forget();
+  }
+  gap.pass(gap.end - gap.rest);
+  return gap.done;
+}
+
+// The same for a pair of bytes that is cut out, where a change leaves one place to look at.
+std::size_t cut_pairs(Occurrences& occurrences, char* text, std::size_t size) {
+  GapText gap{text, 0, 0, size};
+  const char first = occurrences.pattern()[0], second = occurrences.pattern()[1];
+  for (std::size_t at; (at = occurrences.next(gap.rest)) != Occurrences::none;) {
+    gap.pass(at - gap.rest);
+    gap.rest += 2;
+    while (gap.done != 0 && gap.rest != gap.end && gap.bytes[gap.done - 1] == first &&
+           gap.bytes[gap.rest] == second) {
+      --gap.done;
+      ++gap.rest;
     }
   }
-  text.pass(text.end - text.rest);
-  return text.done;
+  gap.pass(gap.end - gap.rest);
+  return gap.done;
 }
 
-std::size_t count_needles(View text, View needle) {
-  std::size_t count = 0;
-  for (std::size_t at; (at = find_next(text, needle)) != View::npos; ++count) {
-    text.remove_prefix(at + needle.size());
+// The same for a pattern of any length: its last bytes are searched again.
+std::size_t rewrite_long_again(char* text, std::size_t size, View pattern, View replacement) {
+  GapText gap{text, 0, 0, size};
+  for (std::size_t at; (at = find_near(gap.unsearched(), pattern)) != View::npos;) {
+    gap.change(at, pattern, replacement);
   }
-  return count;
+  gap.pass(gap.end - gap.rest);
+  return gap.done;
 }
-
-// Can an occurrence of the pattern arise that lies partly in a replacement? "Yes" may be wrong for
-// long patterns; the answer only chooses between two ways to the same bytes. The replacement is not
-// shorter than the pattern.
-bool can_form(View pattern, View replacement) {
-  constexpr std::size_t longest_tested = 64;
-  if (pattern.size() > longest_tested) return true;
-  for (std::size_t n = 1; n < pattern.size(); ++n) {
-    const View head = pattern.substr(0, n), tail = pattern.substr(pattern.size() - n);
-    if (replacement.substr(0, n) == tail) return true;
-    if (replacement.substr(replacement.size() - n) == head) return true;
-  }
-  return false;
-}
-
-// No change forms another one: the text is moved up by all that it grows, in its own buffer, and
-// rewritten from there.
-std::size_t replace_apart(char* text, std::size_t size, View pattern, View replacement) {
-  const std::size_t step = replacement.size() - pattern.size();
-  const std::size_t growth = step == 0 ? 0 : step * count_needles({text, size}, pattern);
-  std::memmove(text + growth, text, size);
-  return change_all({text, 0, growth, growth + size}, pattern, replacement, AfterChange::go_on);
-}
-
-// A rewriting on the heap that may be given up: pairs such as "ab" and "bbaa" never end, and others
-// end after more steps than anybody waits for.
-class HeapRewriting {
- public:
-  explicit HeapRewriting(View text) : text_{nullptr, 0, 0, text.size()}, block_size_(text.size()) {
-    text_.bytes = request_block(block_size_ + 1);
-    if (text_.bytes) put(text_.bytes, text);
-  }
-  ~HeapRewriting() {
-    release_block(text_.bytes);
-  }
-  HeapRewriting(const HeapRewriting&) = delete;
-  HeapRewriting& operator=(const HeapRewriting&) = delete;
-
-  // False if it was given up.
-  bool run(View pattern, View replacement, std::size_t most_changes) {
-    if (!text_.bytes) return false;
-    for (std::size_t changes = 0;; ++changes) {
-      const std::size_t at = find_next(text_.unsearched(), pattern);
-      if (at == View::npos) break;
-      if (changes == most_changes || !make_gap(replacement.size())) return false;
-      change(text_, at, pattern, replacement, AfterChange::look_again);
-    }
-    text_.pass(text_.end - text_.rest);
-    return true;
-  }
-  View result() const {
-    return {text_.bytes, text_.done};
-  }
-
- private:
-  bool make_gap(std::size_t size) {
-    if (text_.gap() >= size) return true;
-    const std::size_t more = block_size_ + size;
-    char* const block = request_block(block_size_ + more + 1);
-    if (!block) return false;
-    std::memcpy(block, text_.bytes, text_.done);
-    std::memcpy(block + text_.rest + more, text_.bytes + text_.rest, text_.end - text_.rest);
-    release_block(text_.bytes);
-    text_.bytes = block;
-    text_.rest += more;
-    text_.end += more;
-    block_size_ += more;
-    return true;
-  }
-
-  GapText text_;
-  std::size_t block_size_;
-};
 
 // The changes that a pair may take before it counts as one without an end. Where a pair forms
 // occurrences on one side of the replacement only, each change uses up a byte of the original text,
@@ -223,47 +189,73 @@ std::size_t most_changes(std::size_t size, View pattern, View replacement) {
   return std::max(size, most_bytes / (pattern.size() + replacement.size()));
 }
 
-// Looks again from the start after each change. Returns the new size; a pair that is given up
-// leaves the text as it was.
-std::size_t replace_again(char* text, std::size_t size, View pattern, View replacement) {
-  if (replacement.size() < pattern.size()) {
-    return change_all({text, 0, 0, size}, pattern, replacement, AfterChange::look_again);
+// Looks again from the start after each change, with a replacement that is shorter.
+std::size_t shrink_again(Occurrences& occurrences, char* text, std::size_t size, View replacement) {
+  const View pattern = occurrences.pattern();
+  if (pattern.size() == 2 && replacement.empty()) return cut_pairs(occurrences, text, size);
+  if (stands_apart(pattern, replacement)) {
+    return rewrite_onward(occurrences, text, 0, size, replacement);
   }
-  if (find_needle({text, size}, pattern) == View::npos) return size;
-  if (find_needle(replacement, pattern) != View::npos) return size;
-  if (!can_form(pattern, replacement)) return replace_apart(text, size, pattern, replacement);
+  if (pattern.size() > short_pattern) return rewrite_long_again(text, size, pattern, replacement);
+  return rewrite_again(occurrences, text, size, replacement);
+}
+
+// The same on the heap. A pair that is given up leaves the text as it was.
+std::size_t rewrite_on_heap(char* text, std::size_t size, View pattern, View replacement) {
   HeapRewriting rewriting({text, size});
   if (!rewriting.run(pattern, replacement, most_changes(size, pattern, replacement))) return size;
   put(text, rewriting.result());
   return rewriting.result().size();
 }
 
+// The same with a replacement that is not shorter. Returns the new size.
+std::size_t grow_again(Occurrences& occurrences, char* text, std::size_t size, View replacement) {
+  const View pattern = occurrences.pattern();
+  if (Occurrences(replacement, pattern).any()) return size;
+  if (!stands_apart(pattern, replacement)) {
+    return rewrite_on_heap(text, size, pattern, replacement);
+  }
+  const Places places(occurrences);
+  replace_by_longer(text, size, places, pattern, replacement);
+  return size + places.count * (replacement.size() - pattern.size());
+}
+
 // A text without an occurrence is not written to, not even its terminator.
-void replace_in_bytes(char* text, View pattern, View replacement) {
-  if (pattern.empty()) return;
-  const std::size_t size = std::strlen(text);
-  const std::size_t new_size = replace_again(text, size, pattern, replacement);
+void replace_in_bytes(char* text, const char* pattern, const char* replacement) {
+  const View from(pattern, short_length(pattern));
+  if (from.empty()) return;
+  const char* const first = *text == from[0] ? text : find_byte_or_end(text, from[0]);
+  if (*first == '\0') return;
+  const auto front = static_cast<std::size_t>(first - text);
+  const std::size_t size = front + std::strlen(first);
+  Occurrences occurrences({text, size}, from);
+  if (!occurrences.any_from(front)) return;
+  const View to(replacement, short_length(replacement));
+  const bool shorter = to.size() < from.size();
+  const std::size_t new_size =
+      shorter ? shrink_again(occurrences, text, size, to) : grow_again(occurrences, text, size, to);
   if (new_size != size) text[new_size] = '\0';
 }
 
-// Goes on behind the replacement.
-void replace_onward(std::string& text, View pattern, View replacement) {
+// Goes on behind the replacement, which is longer.
+void grow_onward(std::string& text, Occurrences& occurrences, View replacement) {
+  const std::size_t size = text.size();
+  const Places places(occurrences);
+  const View pattern = occurrences.pattern();
+  text.resize(size + places.count * (replacement.size() - pattern.size()));
+  replace_by_longer(text.data(), size, places, pattern, replacement);
+}
+
+void replace_in_string(std::string& text, View pattern, const std::string& replacement) {
+  Occurrences occurrences(text, pattern);
+  if (!occurrences.any()) return;
   if (replacement.size() <= pattern.size()) {
-    text.resize(
-        change_all({text.data(), 0, 0, text.size()}, pattern, replacement, AfterChange::go_on));
-    return;
+    text.resize(rewrite_onward(occurrences, text.data(), 0, text.size(), replacement));
+  } else if (&replacement == &text) {
+    grow_onward(text, occurrences, std::string(replacement));
+  } else {
+    grow_onward(text, occurrences, replacement);
   }
-  View rest = text;
-  const std::size_t count = count_needles(rest, pattern);
-  if (count == 0) return;
-  std::string result;
-  result.reserve(text.size() + count * (replacement.size() - pattern.size()));
-  for (std::size_t at; (at = find_next(rest, pattern)) != View::npos;) {
-    result.append(rest.substr(0, at)).append(replacement);
-    rest.remove_prefix(at + pattern.size());
-  }
-  result.append(rest);
-  text.swap(result);
 }
 
 }  // namespace
@@ -281,7 +273,7 @@ void Zeph_Replace(std::string& text, char find, char replacement) {
 }
 
 void Zeph_Replace(std::string& text, const std::string& pattern, const std::string& replacement) {
-  if (!pattern.empty()) zeph::replace_onward(text, pattern, replacement);
+  if (!pattern.empty()) zeph::replace_in_string(text, pattern, replacement);
 }
 
 void Zeph_Replace(char* text, const char* pattern, const char* replacement) {
@@ -290,11 +282,13 @@ void Zeph_Replace(char* text, const char* pattern, const char* replacement) {
 
 void Zeph_Remove(std::string& text, const std::string& pattern) {
   if (pattern.empty()) return;
-  text.resize(zeph::replace_again(text.data(), text.size(), pattern, {}));
+  zeph::Occurrences occurrences(text, pattern);
+  if (!occurrences.any()) return;
+  text.resize(zeph::shrink_again(occurrences, text.data(), text.size(), {}));
 }
 
 void Zeph_Remove(char* text, const char* pattern) {
-  zeph::replace_in_bytes(text, pattern, {});
+  zeph::replace_in_bytes(text, pattern, "");
 }
 
 void Zeph_Remove(std::string& text, char byte) {

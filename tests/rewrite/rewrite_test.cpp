@@ -39,6 +39,28 @@ TEST(Replace, TextsWithoutAnOccurrenceAreNotWritten) {
   EXPECT_STREQ(constant, "abcabc");
 }
 
+TEST(Replace, TakesManyOccurrencesNearAndFar) {
+  std::string text, longer, shorter, none;
+  for (std::size_t i = 0; i < 300; ++i) {
+    const std::string between(2 * i, '-');
+    text += between + "ss";
+    longer += between + "<s>";
+    shorter += between + "z";
+    none += between;
+  }
+  std::string bytes = text + std::string(301, '\0'), string = text, own = "ab";
+  Zeph_Replace(bytes.data(), "ss", "<s>");
+  EXPECT_EQ(bytes.c_str(), longer);
+  Zeph_Replace(string, "ss", "<s>");
+  EXPECT_EQ(string, longer);
+  Zeph_Replace(string, "<s>", "z");
+  EXPECT_EQ(string, shorter);
+  Zeph_Remove(text, "ss");
+  EXPECT_EQ(text, none);
+  Zeph_Replace(own, "a", own);
+  EXPECT_EQ(own, "abb");
+}
+
 TEST(Splicing, SizeBoundsTheText) {
   errno = 9;
   const std::string longer(2100, 'x');
