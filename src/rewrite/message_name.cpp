@@ -1,12 +1,12 @@
 // Message names of the form S1F13, by which the standard SECS-II (SEMI E5) names a message by its
 // stream and its function.
 #include <climits>
-#include <cstring>
 
 #include "frame/fixed_buffers.h"
 #include "frame/locale_fold.h"
 #include "frame/owned_buffers.h"
 #include "number/integer_text.h"
+#include "rewrite/short_length.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -39,7 +39,7 @@ bool Zeph_Check_SxxFxx(const char* text, unsigned char* stream, unsigned char* f
   if (fold(*text) != fold('S')) return false;
   const char* const f = zeph::find_folded(text + 1, fold('F'), fold);
   if (*f == '\0' || f - text < 2 || f - text > INT_MAX) return false;
-  const std::size_t behind = std::strlen(f + 1);
+  const std::size_t behind = zeph::short_length(f + 1);
   if (behind == 0 || behind > INT_MAX) return false;
   int stream_number = 0, function_number = 0;
   if (!zeph::read_number(text + 1, f, stream_number)) return false;

@@ -7,8 +7,10 @@
 #include <cstring>
 #include <string_view>
 
+#include "rewrite/cut_pairs.h"
 #include "rewrite/gap_text.h"
 #include "rewrite/occurrences.h"
+#include "rewrite/short_length.h"
 #include "scan/find_byte.h"
 #include "scan/remove_byte.h"
 #include "zeph.h"
@@ -30,15 +32,6 @@ void replace_bytes(char* text, std::size_t size, char find, char replacement) {
   }
   std::size_t i = View(text, size).find(find);
   for (; i < size; ++i) text[i] = text[i] == find ? replacement : text[i];
-}
-
-// The length of a byte text that is mostly a few bytes long.
-std::size_t short_length(const char* text) {
-  constexpr std::size_t near = 8;
-  for (std::size_t size = 0; size < near; ++size) {
-    if (text[size] == '\0') return size;
-  }
-  return near + std::strlen(text + near);
 }
 
 // Goes on behind each replacement: the `size` bytes at `text + from` become bytes at `text`.
@@ -153,23 +146,6 @@ std::size_t rewrite_again(Occurrences& occurrences, char* text, std::size_t size
   return gap.done;
 }
 
-// The same for a pair of bytes that is cut out, where a change leaves one place to look at.
-std::size_t cut_pairs(Occurrences& occurrences, char* text, std::size_t size) {
-  GapText gap{text, 0, 0, size};
-  const char first = occurrences.pattern()[0], second = occurrences.pattern()[1];
-  for (std::size_t at; (at = occurrences.next(gap.rest)) != Occurrences::none;) {
-    gap.pass(at - gap.rest);
-    gap.rest += 2;
-    while (gap.done != 0 && gap.rest != gap.end && gap.bytes[gap.done - 1] == first &&
-           gap.bytes[gap.rest] == second) {
-      --gap.done;
-      ++gap.rest;
-    }
-  }
-  gap.pass(gap.end - gap.rest);
-  return gap.done;
-}
-
 // The same for a pattern of any length: its last bytes are searched again.
 std::size_t rewrite_long_again(char* text, std::size_t size, View pattern, View replacement) {
   GapText gap{text, 0, 0, size};
@@ -192,7 +168,7 @@ std::size_t most_changes(std::size_t size, View pattern, View replacement) {
 // Looks again from the start after each change, with a replacement that is shorter.
 std::size_t shrink_again(Occurrences& occurrences, char* text, std::size_t size, View replacement) {
   const View pattern = occurrences.pattern();
-  if (pattern.size() == 2 && replacement.empty()) return cut_pairs(occurrences, text, size);
+  if (pattern.size() == 2 && replacement.empty()) return cut_pairs(occurrences, {text, 0, 0, size});
   if (stands_apart(pattern, replacement)) {
     return rewrite_onward(occurrences, text, 0, size, replacement);
   }
@@ -224,6 +200,7 @@ std::size_t grow_again(Occurrences& occurrences, char* text, std::size_t size, V
 void replace_in_bytes(char* text, const char* pattern, const char* replacement) {
   const View from(pattern, short_length(pattern));
   if (from.empty()) return;
+  if (from.size() == 2 && *replacement == '\0') return cut_pairs_in_bytes(text, from);
   const char* const first = *text == from[0] ? text : find_byte_or_end(text, from[0]);
   if (*first == '\0') return;
   const auto front = static_cast<std::size_t>(first - text);

@@ -30,15 +30,10 @@ std::size_t remove_with(char* text, std::size_t size, char byte, Dense dense) {
     const void* const found = std::memchr(text + from, byte, size - from);
     return found ? static_cast<std::size_t>(static_cast<const char*>(found) - text) : size;
   };
-  std::size_t first = 0;
-  if (size >= near) {
-    first = find(0);
-    if (first == size) return size;
-    first = std::min(first, size - near);
-  } else {
-    while (first < size && text[first] != byte) ++first;
-  }
-  Removal removal{first, first};
+  const std::size_t first = find(0);
+  if (first == size) return size;
+  const std::size_t start = std::min(first, size - std::min(near, size));
+  Removal removal{start, start};
   while (removal.next < size) {
     removal = dense(removal);
     const Removal before = removal;
@@ -58,7 +53,7 @@ std::size_t remove_byte_portable(char* text, std::size_t size, char byte) {
   return remove_with(text, size, byte, [](Removal removal) { return removal; });
 }
 
-std::size_t remove_byte(char* text, std::size_t size, char byte) {
+std::size_t remove_byte_wide(char* text, std::size_t size, char byte) {
 #ifdef ZEPH_HAS_AVX2
   if (has_avx2()) {
     return remove_with(text, size, byte, [=](Removal removal) {

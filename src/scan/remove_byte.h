@@ -8,7 +8,11 @@ namespace zeph {
 
 // Moves the bytes that are not `byte` to the front, in order; returns how many they are. What
 // stands behind them is not told.
-std::size_t remove_byte(char* text, std::size_t size, char byte);
+inline std::size_t remove_byte(char* text, std::size_t size, char byte);
+
+// The twins, with the same promise; the short one walks.
+inline std::size_t remove_byte_short(char* text, std::size_t size, char byte);
+std::size_t remove_byte_wide(char* text, std::size_t size, char byte);
 std::size_t remove_byte_portable(char* text, std::size_t size, char byte);
 
 // How far a removal has come: the bytes in front of `kept` stay, those from `next` on are to be
@@ -19,6 +23,22 @@ struct Removal {
 
 // Goes on, 32 bytes a step, up to the first 32 that do not have the byte. Needs AVX2.
 Removal remove_dense_byte_avx2(char* text, std::size_t size, char byte, Removal removal);
+
+inline std::size_t remove_byte_short(char* text, std::size_t size, char byte) {
+  std::size_t kept = 0;
+  while (kept < size && text[kept] != byte) ++kept;
+  for (std::size_t next = kept; next < size; ++next) {
+    const char here = text[next];
+    text[kept] = here;
+    kept += here != byte;
+  }
+  return kept;
+}
+
+inline std::size_t remove_byte(char* text, std::size_t size, char byte) {
+  constexpr std::size_t step = 32;
+  return size < step ? remove_byte_short(text, size, byte) : remove_byte_wide(text, size, byte);
+}
 
 }  // namespace zeph
 

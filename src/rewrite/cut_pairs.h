@@ -1,0 +1,82 @@
+// A pair of bytes cut out of a text, from the start again after each cut. A cut leaves one place to
+// look at: where the two sides of the gap meet.
+#ifndef ZEPH_REWRITE_CUT_PAIRS_H
+#define ZEPH_REWRITE_CUT_PAIRS_H
+
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+
+#include "rewrite/gap_text.h"
+#include "rewrite/occurrences.h"
+#include "scan/find_byte.h"
+
+namespace zeph {
+
+// How many pairs stand one inside of the other around the gap.
+inline std::size_t pairs_across(const GapText& gap, char first, char second) {
+  const std::size_t most = std::min(gap.done, gap.end - gap.rest);
+  std::size_t n = 0;
+  while (n < most && gap.bytes[gap.done - 1 - n] == first && gap.bytes[gap.rest + n] == second) ++n;
+  return n;
+}
+
+// In front of the gap there is no pair. Returns the new size.
+inline std::size_t cut_pairs(Occurrences& occurrences, const GapText& text) {
+  GapText gap = text;
+  const char first = occurrences.pattern()[0], second = occurrences.pattern()[1];
+  for (;;) {
+    const std::size_t across = pairs_across(gap, first, second);
+    gap.done -= across;
+    gap.rest += across;
+    const std::size_t at = occurrences.next(gap.rest);
+    if (at == Occurrences::none) break;
+    gap.pass(at - gap.rest);
+    gap.rest += 2;
+  }
+  gap.pass(gap.end - gap.rest);
+  return gap.done;
+}
+
+// The first pair of a byte text if it is near the first byte of that kind. NULL if there is none at
+// all; another place where no pair is in front of it.
+inline char* near_pair(char* text, char first, char second) {
+  constexpr int near = 16;
+  char* from = text;
+  if (*from != first) from += find_byte_or_end(text, first) - text;
+  for (int i = 0; i < near; ++i, ++from) {
+    if (*from == '\0') return nullptr;
+    if (from[0] == first && from[1] == second) break;
+  }
+  return from;
+}
+
+// The same in a byte text. The next bytes are gone through one by one: that needs no length, and no
+// search, which a short text would not repay.
+inline void cut_pairs_in_bytes(char* text, std::string_view pair) {
+  constexpr std::ptrdiff_t near = 64;
+  const char first = pair[0], second = pair[1];
+  char* from = near_pair(text, first, second);
+  if (!from) return;
+  char* top = from;
+  if (from[0] == first && from[1] == second) {
+    for (const char* const far = from + near; from < far;) {
+      if (from[0] == first && from[1] == second) {
+        for (from += 2; top != text && top[-1] == first && *from == second; ++from) --top;
+      } else if ((*top = *from++) == '\0') {
+        return;
+      } else {
+        ++top;
+      }
+    }
+  }
+  const auto done = static_cast<std::size_t>(top - text);
+  const auto rest = static_cast<std::size_t>(from - text), size = rest + std::strlen(from);
+  Occurrences occurrences({text, size}, pair);
+  const std::size_t new_size = cut_pairs(occurrences, {text, done, rest, size});
+  if (new_size != size) text[new_size] = '\0';
+}
+
+}  // namespace zeph
+
+#endif  // ZEPH_REWRITE_CUT_PAIRS_H
