@@ -55,6 +55,35 @@ void printed_to_size(Draw& draw) {
             whole.substr(0, static_cast<std::size_t>(std::max(size - 1, 0))));
 }
 
+// '%', flags, a width, a precision and one of the kinds; what a real number may take.
+std::string directive(Draw& draw, const std::string& flags, const std::string& kinds) {
+  std::string text = "%" + draw.piece(2, flags);
+  if (draw.yes()) text += std::to_string(1 + draw.below(draw.yes() ? 12 : 120));
+  if (kinds != "c" && draw.below(3) == 0) {
+    text += "." + (draw.yes() ? std::to_string(draw.below(12)) : "");
+  }
+  return text + kinds[draw.below(kinds.size())];
+}
+
+void printed_directives(Draw& draw) {
+  const std::string text = draw.text(40, "ab");
+  const int number = draw.any_int(), byte = draw.byte(), size = draw.between(2, 99);
+  const double real = any_real(draw);
+  const std::string format = directive(draw, "-", "s") + draw.piece(3, "ab") +
+                             directive(draw, draw.yes() ? "-0" : "-0 +", "dd") + "%%" +
+                             directive(draw, "-0", draw.yes() ? "uxX" : "o") +
+                             directive(draw, "-", "c") +
+                             directive(draw, "-0", draw.below(8) == 0 ? "e" : "f") +
+                             (draw.yes() ? directive(draw, "-", "%") : "|%.3s");
+  const auto print = [&](auto printer, auto... room) {
+    return printer(room..., format.c_str(), text.c_str(), number, number, byte, real, text.c_str());
+  };
+  const std::string whole = print([](auto... values) { return printed(values...); });
+  const auto splice = [](auto... values) { return Zeph_Splicing(values...); };
+  EXPECT_EQ(print(splice, 1024), whole) << format;
+  EXPECT_EQ(print(splice, size), whole.substr(0, static_cast<std::size_t>(size - 1))) << format;
+}
+
 // The first text lies in a room that holds the result.
 void joined_alarms(Draw& draw) {
   const char* const alphabet = draw.yes() ? "ab |" : "ab ";
@@ -122,6 +151,7 @@ void overlays(Draw& draw) {
 }  // namespace
 
 const Family composition_family{
-    "composition", {appended, printed_to_size, joined_alarms, fixed_buffers, overlays}};
+    "composition",
+    {appended, printed_to_size, printed_directives, joined_alarms, fixed_buffers, overlays}};
 
 }  // namespace zeph_test

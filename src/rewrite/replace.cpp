@@ -90,12 +90,22 @@ void replace_by_longer(char* text, std::size_t size, const Places& places, View 
   }
 }
 
+// Patterns and replacements are mostly a few bytes long, which does not repay a search.
+bool contains(View text, View pattern) {
+  constexpr std::size_t near = 16;
+  if (text.size() > near) return find_needle(text, pattern) != View::npos;
+  for (; text.size() >= pattern.size(); text.remove_prefix(1)) {
+    if (same_short_bytes(text.data(), pattern.data(), pattern.size())) return true;
+  }
+  return false;
+}
+
 // Whether no new occurrence can lie in a replacement, not even in part, so that one pass has the
 // answer of looking again. "No" may be wrong for long patterns; it only chooses between two ways to
 // the same bytes.
 bool stands_apart(View pattern, View replacement) {
   if (replacement.empty()) return pattern.size() == 1;
-  if (pattern.size() > short_range || Occurrences(pattern, replacement).any()) return false;
+  if (pattern.size() > short_range || contains(pattern, replacement)) return false;
   const std::size_t most = std::min(pattern.size() - 1, replacement.size());
   const char* const pattern_end = pattern.data() + pattern.size();
   const char* const replacement_end = replacement.data() + replacement.size();
@@ -187,7 +197,7 @@ std::size_t rewrite_on_heap(char* text, std::size_t size, View pattern, View rep
 // The same with a replacement that is not shorter. Returns the new size.
 std::size_t grow_again(Occurrences& occurrences, char* text, std::size_t size, View replacement) {
   const View pattern = occurrences.pattern();
-  if (Occurrences(replacement, pattern).any()) return size;
+  if (contains(replacement, pattern)) return size;
   if (!stands_apart(pattern, replacement)) {
     return rewrite_on_heap(text, size, pattern, replacement);
   }

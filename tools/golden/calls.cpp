@@ -440,7 +440,18 @@ const std::map<std::string, std::function<Parts(A&)>> calls = {
                                : cut_to_size(static_cast<const char*>(a.bytes(0)), a.number(1));
      }},
     {"Zeph_Splicing",
-     [](A& a) { return Parts{Zeph_Splicing(a.number(0), "%s=%d", a.bytes(1), a.number(2))}; }},
+     [](A& a) {
+       if (a.is("real")) {
+         const double r = a.real(1);
+         return Parts{Zeph_Splicing(a.number(0), "%8.2f %-8.0f %08.3f %f", r, r, r, r)};
+       }
+       if (a.is("widths")) {
+         const int n = a.number(2);
+         return Parts{Zeph_Splicing(a.number(0), "%6s %-6.2s %05d %-5i %08X %x%3c", a.bytes(1),
+                                    a.bytes(1), n, n, n, n, a.byte(1))};
+       }
+       return Parts{Zeph_Splicing(a.number(0), "%s=%d", a.bytes(1), a.number(2))};
+     }},
     {"Zeph_Copy_Mem", overlay},
     {"Zeph_Strcat_Alarm_Append_Text", joined_alarms},
     {"Zeph_To_Ascii", dump},
