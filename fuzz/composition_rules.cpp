@@ -1,4 +1,5 @@
 // Texts appended, printed and joined; fixed buffers.
+#include <cmath>
 #include <new>
 
 #include "frame/buffers_table.h"
@@ -59,7 +60,7 @@ void printed_to_size(Draw& draw) {
 std::string directive(Draw& draw, const std::string& flags, const std::string& kinds) {
   std::string text = "%" + draw.piece(2, flags);
   if (draw.yes()) text += std::to_string(1 + draw.below(draw.yes() ? 12 : 120));
-  if (kinds != "c" && draw.below(3) == 0) {
+  if (draw.below(3) == 0) {
     text += "." + (draw.yes() ? std::to_string(draw.below(12)) : "");
   }
   return text + kinds[draw.below(kinds.size())];
@@ -68,13 +69,12 @@ std::string directive(Draw& draw, const std::string& flags, const std::string& k
 void printed_directives(Draw& draw) {
   const std::string text = draw.text(40, "ab");
   const int number = draw.any_int(), byte = draw.byte(), size = draw.between(2, 99);
-  const double real = any_real(draw);
-  const std::string format = directive(draw, "-", "s") + draw.piece(3, "ab") +
-                             directive(draw, draw.yes() ? "-0" : "-0 +", "dd") + "%%" +
-                             directive(draw, "-0", draw.yes() ? "uxX" : "o") +
-                             directive(draw, "-", "c") +
-                             directive(draw, "-0", draw.below(8) == 0 ? "e" : "f") +
-                             (draw.yes() ? directive(draw, "-", "%") : "|%.3s");
+  const double real = draw.below(16) == 0 ? HUGE_VAL : any_real(draw);
+  const std::string format =
+      directive(draw, "-", "s") + draw.piece(3, "ab") +
+      directive(draw, draw.yes() ? "-0" : "-0 +", "d") + "%%" +
+      directive(draw, "-0", draw.yes() ? "uxX" : "o") + directive(draw, "-0", "c") +
+      directive(draw, "-0", draw.below(8) == 0 ? "e" : "f") + directive(draw, "-0", "s");
   const auto print = [&](auto printer, auto... room) {
     return printer(room..., format.c_str(), text.c_str(), number, number, byte, real, text.c_str());
   };

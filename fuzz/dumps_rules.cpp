@@ -16,7 +16,8 @@ std::string dumped(const char* format, const std::string& bytes) {
 }
 
 void dumps(Draw& draw) {
-  std::string bytes = draw.yes() ? draw.bytes(200) : draw.text(200, "\x0A\xA0\xFF\xE4");
+  std::string bytes =
+      draw.yes() ? draw.bytes(200) : draw.text(200, draw.yes() ? "\xFF\xE4" : "\x0A\xA0");
   const std::string text = bytes.c_str();
   const GuardedText source(bytes, End::bare), ended(text);
   const auto count = static_cast<int>(bytes.size());

@@ -38,9 +38,9 @@ bool Zeph_Check_SxxFxx(const char* text, unsigned char* stream, unsigned char* f
   const zeph::LocaleFold fold(zeph::LetterCase::lower);
   if (fold(*text) != fold('S')) return false;
   const char* const f = zeph::find_folded(text + 1, fold('F'), fold);
-  if (*f == '\0' || f - text < 2 || f - text > INT_MAX) return false;
+  if (*f == '\0' || f - text < 2) return false;
   const std::size_t behind = zeph::short_length(f + 1);
-  if (behind == 0 || behind > INT_MAX) return false;
+  if (behind == 0 || behind > INT_MAX || f - text > INT_MAX) return false;
   int stream_number = 0, function_number = 0;
   if (!zeph::read_number(text + 1, f, stream_number)) return false;
   if (!zeph::read_number(f + 1, f + 1 + behind, function_number)) return false;

@@ -12,7 +12,7 @@
 
 namespace zeph {
 
-// Directives of %s, %d, %i, %u, %x, %X, %c, %f and %%; of those but the last with '-', '0' and a
+// Directives of %s, %d, %i, %u, %x, %X, %c, %f and %%; all but the last with '-', '0' and a
 // width below 100, and of %s and %f with one digit of precision. What comes of all others is the
 // runtime's to say, and of NULL for a text, a zero byte, and a directive behind the end of the
 // room.
@@ -28,9 +28,9 @@ class PlainPrint {
   // build would check it at each piece.
   [[gnu::noinline]] bool print(const char* format, std::va_list& arguments) {
     for (; *format != '\0'; ++format) {
-      if (*format != '%') {
+      if (*format != '%' || *++format == '%') {
         put_literal(*format);
-      } else if (cut_ || !put_directive(read_directive(++format), arguments)) {
+      } else if (cut_ || !put_directive(read_directive(format), arguments)) {
         return false;
       }
     }
@@ -50,10 +50,6 @@ class PlainPrint {
     bool left = false, zeros = false;
     std::size_t width = 0;
     int precision = -1;
-
-    bool bare() const {
-      return !left && !zeros && width == 0 && precision < 0;
-    }
   };
 
   static bool is_digit(char byte) {
@@ -83,18 +79,19 @@ class PlainPrint {
         return put_text(directive, va_arg(arguments, const char*));
       case 'd':
       case 'i':
-        return put_integer(directive, va_arg(arguments, int), 10);
+        return put_integer(directive, in_digits(va_arg(arguments, int), 10));
       case 'u':
-        return put_integer(directive, va_arg(arguments, unsigned), 10);
+        return put_integer(directive, in_digits(va_arg(arguments, unsigned), 10));
       case 'x':
+        return put_integer(directive, in_digits(va_arg(arguments, unsigned), 16));
       case 'X':
-        return put_integer(directive, va_arg(arguments, unsigned), 16);
+        return put_upper_case(directive, in_digits(va_arg(arguments, unsigned), 16));
       case 'c':
         return put_byte(directive, static_cast<char>(va_arg(arguments, int)));
       case 'f':
         return put_real(directive, va_arg(arguments, double));
       default:
-        return directive.kind == '%' && directive.bare() && put_byte(directive, '%');
+        return false;
     }
   }
 
@@ -140,21 +137,26 @@ class PlainPrint {
   }
 
   template <typename Integer>
-  bool put_integer(const Directive& directive, Integer value, int base) {
-    if (directive.precision >= 0) return false;
-    char* const end = std::to_chars(out_, out_ + slack, value, base).ptr;
-    if (directive.kind == 'X') {
-      std::for_each(out_, end, [](char& digit) {
-        if (digit > '9') digit = static_cast<char>(digit - 'a' + 'A');
-      });
+  std::to_chars_result in_digits(Integer value, int base) {
+    return std::to_chars(out_, out_ + slack, value, base);
+  }
+
+  // An integer that stands there in digits. Its precision is left to the runtime.
+  bool put_integer(const Directive& directive, std::to_chars_result digits) {
+    return directive.precision < 0 ? end_field(directive, digits.ptr) : false;
+  }
+
+  bool put_upper_case(const Directive& directive, std::to_chars_result digits) {
+    for (char* digit = out_; digit != digits.ptr; ++digit) {
+      if (*digit > '9') *digit = static_cast<char>(*digit - 'a' + 'A');
     }
-    return end_field(directive, end);
+    return put_integer(directive, digits);
   }
 
   bool put_real(const Directive& directive, double value) {
     const int decimals = directive.precision < 0 ? 6 : directive.precision;
     char* const end = put_fixed_real(out_, value, decimals);
-    return end && end_field(directive, end);
+    return end ? end_field(directive, end) : false;
   }
 
   void put_blanks(std::size_t count) {

@@ -57,6 +57,8 @@ TEST(Replace, TakesManyOccurrencesNearAndFar) {
   EXPECT_EQ(string, shorter);
   Zeph_Remove(text, "ss");
   EXPECT_EQ(text, none);
+  Zeph_Replace(none, std::string(70, '-'), "+");
+  EXPECT_EQ(none, std::string(300 * 299 / 70, '+') + std::string(300 * 299 % 70, '-'));
   Zeph_Replace(own, "a", own);
   EXPECT_EQ(own, "abb");
 }
