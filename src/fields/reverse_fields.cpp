@@ -27,8 +27,9 @@ class LastSeparators {
   // How many bytes up to and including the last one in front of `end`; 0 if there is none. `end`
   // gets smaller from call to call.
   std::size_t behind(std::size_t end) {
-    if (end > front_) {
-      places_ &= ~std::uint64_t{0} >> (mask_bytes - (end - front_));
+    const std::size_t near = end - std::min(end, front_);
+    if (near != 0) {
+      places_ &= ~std::uint64_t{0} >> (mask_bytes - near);
       if (places_ != 0) return front_ + highest_place(places_) + 1;
     }
     return front_ == 0 ? 0 : behind_last_in_front(text_, std::min(end, front_), separator_);

@@ -2,9 +2,7 @@
 // stream and its function.
 #include <climits>
 
-#include "frame/fixed_buffers.h"
 #include "frame/locale_fold.h"
-#include "frame/owned_buffers.h"
 #include "number/integer_text.h"
 #include "rewrite/short_length.h"
 #include "zeph.h"
@@ -20,13 +18,10 @@ const char* find_folded(const char* text, char folded, const LocaleFold& fold) {
   return text;
 }
 
-// Reads one of the two numbers, by the grammar of integer text, in a work buffer.
+// Reads one of the two numbers, whose size is an int, by the grammar of integer text.
 bool read_number(const char* begin, const char* end, int& number) {
-  const auto size = static_cast<std::size_t>(end - begin);
-  const WorkBuffers<1> work(size + 1);
-  if (!work.complete()) return false;
-  put_text(work[0], begin, size);
-  return read_integer(work[0], number) && number >= 0 && number <= largest_number;
+  return read_integer_slice(begin, 0, static_cast<int>(end - begin), number) && number >= 0 &&
+         number <= largest_number;
 }
 
 }  // namespace
