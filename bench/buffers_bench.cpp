@@ -186,7 +186,7 @@ void add_text_row(std::size_t size) {
 void add_number_rows(int whole, double real, const std::string& input) {
   char* const room = keep(Places()).room(room_size);
   auto& integers = copy_row("Zeph_Copy_Stack, int", input, sizeof whole, whole, room);
-  integers.reason("the digits are made beside the buffer, as they may have to be cut")
+  integers
       .peer("snprintf %d",
             [room, whole] { return std::snprintf(room, room_size, "%d", whole) >= 0; })
       .peer("std::to_chars", [room, whole] { return copy_number(room, room_size, whole); });

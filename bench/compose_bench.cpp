@@ -109,8 +109,6 @@ void add_append_rows(std::size_t size) {
 template <typename... Values>
 void add_format_row(const char* format, int room, Values... values) {
   auto& printed = row("compose", std::string("Zeph_Splicing, ") + format, "short", 0);
-  printed.reason(
-      "a width, a real number or a cut is left to the C library, as soon as it turns up");
   printed.zeph([format, room, values...] { return Orbane::Zeph_Splicing(room, format, values...); })
       .peer("snprintf to a String", [format, room, values...] {
         std::string text(static_cast<std::size_t>(room), '\0');

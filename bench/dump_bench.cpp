@@ -134,13 +134,10 @@ void add_string_dump_rows(std::size_t size) {
   const auto view = [&d] { return std::string_view(d.text); };
   const auto counted = [&d] { return std::string_view(d.text, static_cast<std::size_t>(d.size)); };
   auto& texts = row("dump", "Zeph_To_Ascii of a byte text", size_text(size), size);
-  const char* const reason = "bytes of one digit are counted first, for a result of just its size";
-  texts.reason(reason);
   texts.zeph([&d] { return Orbane::Zeph_To_Ascii(d.text); }).peer("strlen, byte loop", [view] {
     return dump_by_short_digits(view());
   });
   auto& bytes = row("dump", "Zeph_To_Ascii of bytes", size_text(size), size);
-  bytes.reason(reason);
   bytes.zeph([&d] { return Orbane::Zeph_To_Ascii(d.text, d.size); }).peer("byte loop", [counted] {
     return dump_by_short_digits(counted());
   });

@@ -138,7 +138,6 @@ void add_string_rows(const std::string& quoted, const std::string& bracketed,
   row("enclosures", "Zeph_String_Check to a String", input, quoted.size())
       .outputs([&to] { return std::exchange(to.room, "#"); })
       .zeph([&to] { return Zeph_String_Check(to.source, to.room); })
-      .reason("the text is assigned whole, and its ends are taken off then")
       .peer("tests, assign", [&to] { return unquote_to(to.source, to.room); });
 }
 

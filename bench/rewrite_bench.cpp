@@ -104,7 +104,7 @@ void add_byte_replace_row(const Case& c) {
   const char* const from = c.from.c_str();
   const char* const to = c.to.c_str();
   auto& added = row("rewrite", "Zeph_Replace byte text", c.input, c.text.size());
-  added.reason("after a change the bytes around it are searched again, for what it has formed")
+  added
       .zeph([copy, from, to] {
         char* const text = copy.fresh();
         Orbane::Zeph_Replace(text, from, to);

@@ -140,25 +140,20 @@ void add_string_slice_rows(Marked& m, const std::string& input) {
 template <typename Marker>
 void add_marker_rows(Marked& m, const Marker& marker, std::size_t size, const std::string& kind,
                      const std::string& input) {
-  const char* const any_marker = "the search is one for markers of any length";
   const auto read = [&m] { return std::exchange(m.out, "#"); };
   row("slices", "Zeph_Right, " + kind, input, m.text.size())
-      .reason(any_marker)
       .outputs(read)
       .zeph([&m, marker] { return Orbane::Zeph_Right(m.text, marker, m.out), 0; })
       .peer("rfind, assign", [&m, marker, size] { return right_of(m.text, marker, size, m.out); });
   row("slices", "Zeph_Left, " + kind, input, m.text.size())
-      .reason(any_marker)
       .outputs(read)
       .zeph([&m, marker] { return Orbane::Zeph_Left(m.text, marker, m.out), 0; })
       .peer("find, assign", [&m, marker] { return left_of(m.text, marker, m.out); });
   if (m.size > 4096) return;  // what is returned differs from what is written by a request alone
   row("slices", "Zeph_Right, returned, " + kind, input, m.text.size())
-      .reason(any_marker)
       .zeph([&m, marker] { return Orbane::Zeph_Right(m.text, marker); })
       .peer("rfind, substr", [&m, marker, size] { return right_copy(m.text, marker, size); });
   row("slices", "Zeph_Left, returned, " + kind, input, m.text.size())
-      .reason(any_marker)
       .zeph([&m, marker] { return Orbane::Zeph_Left(m.text, marker); })
       .peer("find, substr", [&m, marker] { return left_copy(m.text, marker); });
 }
