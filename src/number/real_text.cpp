@@ -75,9 +75,9 @@ inline bool store_real(const char* text, double magnitude, bool has_point, doubl
   return number.has_point ? confirm_point(text, value) : true;
 }
 
-// Whether no number has the byte, nor what the test takes for one.
+// Whether a byte that is no digit stands in no number, nor in what the test takes for one.
 inline bool is_foreign(char byte) {
-  return digit_of(byte) > 9 && std::strchr(".eE+-", byte) == nullptr;
+  return std::strchr(".eE+-", byte) == nullptr;
 }
 
 // Whether the digits of a text up to their end, a point among them or not, surely fit a word.

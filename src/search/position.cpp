@@ -71,10 +71,11 @@ bool starts_with(const char* text, const char* pattern) {
   return std::strncmp(text, pattern, std::strlen(pattern)) == 0;
 }
 
-// How many bytes of the two are the same.
+// How many bytes are the same in front of the first that differs. There is one: the pattern does not
+// stand there.
 std::size_t common_bytes(const char* text, const char* pattern) {
   std::size_t i = 0;
-  while (pattern[i] != '\0' && text[i] == pattern[i]) ++i;
+  while (text[i] == pattern[i]) ++i;
   return i;
 }
 
