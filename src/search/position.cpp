@@ -71,8 +71,8 @@ bool starts_with(const char* text, const char* pattern) {
   return std::strncmp(text, pattern, std::strlen(pattern)) == 0;
 }
 
-// How many bytes are the same in front of the first that differs. There is one: the pattern does not
-// stand there.
+// How many bytes are the same in front of the first that differs. There is one: the pattern does
+// not stand there.
 std::size_t common_bytes(const char* text, const char* pattern) {
   std::size_t i = 0;
   while (text[i] == pattern[i]) ++i;
