@@ -76,7 +76,8 @@ void printed_directives(Draw& draw) {
       directive(draw, "-0", draw.yes() ? "uxX" : "o") + directive(draw, "-0", "c") +
       directive(draw, "-0", draw.below(8) == 0 ? "e" : "f") + directive(draw, "-0", "s");
   const auto print = [&](auto printer, auto... room) {
-    return printer(room..., format.c_str(), text.c_str(), number, number, byte, real, text.c_str());
+    return printer(room..., GuardedText(format).data(), text.c_str(), number, number, byte, real,
+                   text.c_str());
   };
   const std::string whole = print([](auto... values) { return printed(values...); });
   const auto splice = [](auto... values) { return Zeph_Splicing(values...); };
