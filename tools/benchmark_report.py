@@ -90,8 +90,14 @@ def time_text(ns):
 
 
 def table(head, rows):
+    """Of what an input holds, '<' would start a tag; in code it stands for itself."""
     lines = ['| ' + ' | '.join(head) + ' |', '|' + ' --- |' * len(head)]
-    return lines + ['| ' + ' | '.join(str(cell).replace('|', '\\|') for cell in row) + ' |' for row in rows]
+
+    def text(cell):
+        cell = str(cell).replace('|', '\\|')
+        return cell if cell.startswith('`') else cell.replace('<', '&lt;')
+
+    return lines + ['| ' + ' | '.join(map(text, row)) + ' |' for row in rows]
 
 
 def geometric_mean(values):
