@@ -1,5 +1,4 @@
-// The place of a pattern in a byte text: what the exported searches and the check of message names
-// share.
+// The place of a pattern in a byte text: the core that the exported searches share.
 #ifndef ZEPH_SEARCH_POSITION_H
 #define ZEPH_SEARCH_POSITION_H
 
