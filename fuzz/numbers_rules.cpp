@@ -104,9 +104,10 @@ std::string middle_of_doubles(Draw& draw) {
   return draw.yes() ? text : text + std::string(draw.below(20), '0') + "1";
 }
 
-// Often zeros, with a point somewhere or nowhere.
+// Often zeros, at times nothing else, with a point somewhere or nowhere.
 std::string any_digits(Draw& draw) {
-  std::string text = "0" + draw.text(draw.below(50) == 0 ? 400 : 24, "0123456789000");
+  const std::string digits = draw.below(8) == 0 ? "0" : "0123456789000";
+  std::string text = "0" + draw.text(draw.below(50) == 0 ? 400 : 24, digits);
   const std::size_t point = draw.below(2 * text.size());
   if (point < text.size()) text.insert(point, ".");
   return draw.yes() ? text : "-" + text + "e" + std::to_string(draw.between(-400, 400));

@@ -31,8 +31,8 @@
 #include <vector>
 
 /// Lets a program call the shared library through the address that the loader has stored, as on
-/// Windows. Without it each call takes one more jump, through a stub in the program, which the short
-/// operations feel: some half nanosecond of two to five.
+/// Windows. Without it each call takes one more jump, through a stub in the program, which the
+/// short operations feel: some half nanosecond of two to five.
 #if defined(__ELF__) && defined(__x86_64__) && defined(__has_attribute)
 #if __has_attribute(__noplt__)
 #define ZEPH_NO_STUB __attribute__((__noplt__))

@@ -1,6 +1,5 @@
 #include "frame/owned_buffers.h"
 
-#include <cerrno>
 #include <climits>
 #include <cstdint>
 #include <cstdlib>
@@ -14,14 +13,6 @@
 
 namespace zeph {
 
-// errno is all of the error state that a heap touches, on any system.
-char* request_block(std::size_t size) {
-  const int before = errno;
-  char* const block = static_cast<char*>(std::calloc(size, 1));
-  errno = before;
-  return block;
-}
-
 void release_block(char*& block) {
   std::free(block);
   block = nullptr;
@@ -29,13 +20,6 @@ void release_block(char*& block) {
 
 void report_refused_work_buffer() {
   Diag_Banner("[Zeph] Memory calloc Fail in Zeph_Prepare_Mem");
-}
-
-void request_work_buffers(char** blocks, std::size_t count, std::size_t size) {
-  for (std::size_t i = 0; i < count; ++i) {
-    blocks[i] = request_block(size);
-    if (!blocks[i]) report_refused_work_buffer();
-  }
 }
 
 bool prepare_block(char*& block, std::size_t size) {
@@ -48,7 +32,8 @@ bool prepare_block(char*& block, std::size_t size) {
     if (size <= capacity) return true;
     release_block(block);
   }
-  request_work_buffers(&block, 1, size);
+  block = request_block(size);
+  if (!block) report_refused_work_buffer();
   return block != nullptr;
 }
 

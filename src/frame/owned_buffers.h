@@ -3,22 +3,32 @@
 #define ZEPH_FRAME_OWNED_BUFFERS_H
 
 #include <array>
+#include <cerrno>
 #include <cstddef>
 #include <cstdlib>
 
 namespace zeph {
 
-// Asks the heap for `size` zero bytes, with errno left alone. Returns NULL if it refuses.
-char* request_block(std::size_t size);
+// Asks the heap for `size` zero bytes, once for each block. One that it refuses is NULL. errno is
+// left alone; it is all of the error state that a heap touches, on any system.
+template <std::size_t count>
+inline std::array<char*, count> request_blocks(std::size_t size) {
+  const int before = errno;
+  std::array<char*, count> blocks;
+  for (char*& block : blocks) block = static_cast<char*>(std::calloc(size, 1));
+  errno = before;
+  return blocks;
+}
+
+inline char* request_block(std::size_t size) {
+  return request_blocks<1>(size)[0];
+}
 
 // Frees the block and sets the pointer to NULL.
 void release_block(char*& block);
 
 // The report of a refused work buffer.
-void report_refused_work_buffer();
-
-// Asks for work buffers of one size, in order. Each refusal is reported and leaves a NULL.
-void request_work_buffers(char** blocks, std::size_t count, std::size_t size);
+[[gnu::cold]] void report_refused_work_buffer();
 
 // The core of Zeph_Prepare_Mem: a block that is there and has the capacity stays, another one takes
 // its place otherwise. Reports a refusal of the heap, or a block that it does not know.
@@ -29,8 +39,10 @@ bool prepare_block(char*& block, std::size_t size);
 template <std::size_t count>
 class WorkBuffers {
  public:
-  explicit WorkBuffers(std::size_t size) {
-    request_work_buffers(blocks_.data(), count, size);
+  explicit WorkBuffers(std::size_t size) : blocks_(request_blocks<count>(size)) {
+    for (const char* block : blocks_) {
+      if (!block) report_refused_work_buffer();
+    }
   }
   ~WorkBuffers() {
     for (char* const block : blocks_) std::free(block);
@@ -45,11 +57,11 @@ class WorkBuffers {
     return true;
   }
   char* operator[](std::size_t index) const {
-    return blocks_.data()[index];
+    return blocks_[index];
   }
 
  private:
-  std::array<char*, count> blocks_;
+  const std::array<char*, count> blocks_;
 };
 
 }  // namespace zeph

@@ -19,6 +19,12 @@ constexpr unsigned int digit_of(char byte) {
 // So many digits never leave 64 bits.
 constexpr std::ptrdiff_t most_word_digits = std::numeric_limits<std::uint64_t>::digits10;
 
+// The byte at a place of a text: a zero byte at the end that is passed, if one is.
+template <typename... End>
+inline char byte_at(const char* place, End... end) {
+  return ((place == end) || ...) ? '\0' : *place;
+}
+
 // Appends the digits at `text` to the number in `word`, modulo its size, and returns their end. The
 // least work for few of them.
 template <typename Word>
@@ -26,6 +32,12 @@ inline const char* append_digits(const char* text, Word& word) {
   unsigned int digit = digit_of(*text);
 #pragma GCC unroll 4
   for (; digit <= 9; digit = digit_of(*++text)) word = word * 10 + digit;
+  return text;
+}
+
+// The same in a text that may go on behind its end.
+inline const char* append_digits(const char* text, std::uint64_t& word, const char* text_end) {
+  for (; text != text_end && digit_of(*text) <= 9; ++text) word = word * 10 + digit_of(*text);
   return text;
 }
 
@@ -54,18 +66,20 @@ inline const char* append_many_digits(const char* text, std::uint64_t& word) {
   }
 }
 
-// The same in a text that ends at `end`: up to 24 digits take two wide steps.
-inline const char* append_digits(const char* text, const char* end, std::uint64_t& word) {
+// Appends as many of the digits as whole wide steps take, of up to 24 in a text whose end is known.
+inline const char* append_wide_digits(const char* text, std::uint64_t& word, const char* end) {
   std::uint64_t number;
-  if (end - text >= 16 && read_sixteen_digits(text, number)) {
-    word = word * 10000000000000000 + number;
-    text += 16;
+  if (end - text >= 8) {
+    if (end - text >= 16 && read_sixteen_digits(text, number)) {
+      word = word * 10000000000000000 + number;
+      text += 16;
+    }
+    if (end - text >= 8 && read_eight_digits(text, number)) {
+      word = word * 100000000 + number;
+      text += 8;
+    }
   }
-  if (end - text >= 8 && read_eight_digits(text, number)) {
-    word = word * 100000000 + number;
-    text += 8;
-  }
-  return append_digits(text, word);
+  return text;
 }
 
 // The white space of the process's locale, which the runtime's atoi and atof skip.

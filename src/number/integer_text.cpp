@@ -44,8 +44,9 @@ inline bool store_part(unsigned int word, Value& value) {
   return false;
 }
 
-bool has_hex_prefix(const char* body) {
-  return body[0] == '0' && (body[1] == 'x' || body[1] == 'X');
+template <typename... End>
+bool has_hex_prefix(const char* body, End... end) {
+  return byte_at(body, end...) == '0' && (byte_at(body + 1, end...) | 0x20) == 'x';
 }
 
 // The 8-bit grammar: decimal digits alone.
@@ -57,13 +58,15 @@ bool read_small_integer(const char* text, char& value) {
 }
 
 // Hexadecimal digits, or a foreign byte behind the decimal ones, whose number is `word`. It stays
-// out of the way of the decimal numbers.
-[[gnu::noinline]] bool read_other_integer(const char* text, unsigned int word, int& value) {
+// out of the way of the decimal numbers. The text is not empty.
+template <typename... End>
+[[gnu::noinline]] bool read_other_integer(const char* text, unsigned int word, int& value,
+                                          End... end) {
   const bool negative = *text == '-';
   const char* body = text + negative;
-  if (!has_hex_prefix(body)) return store_part(word, value);
+  if (!has_hex_prefix(body, end...)) return store_part(word, value);
   word = 0;
-  for (body += 2; *body != '\0'; ++body) {
+  for (body += 2; byte_at(body, end...) != '\0'; ++body) {
     const unsigned int digit = hex_values[static_cast<unsigned char>(*body)];
     if (digit == foreign) return store_part(word, value);
     word = word * 16 + digit;
@@ -85,8 +88,23 @@ int last_hex_digits(const char* begin, const char* end) {
   return static_cast<int>(word);
 }
 
-// What the runtime's atoi reads. It is asked itself where the number may be beyond an int.
-int leading_integer(const char* text) {
+// What the runtime's atoi reads in most slices: declines where white space or a '+' comes first, no
+// digit, or more than an int.
+inline bool leading_integer(const char* text, const char* end, int& value) {
+  const bool negative = byte_at(text, end) == '-';
+  const char* const begin = text + negative;
+  std::uint64_t word = 0;
+  const char* const stop = append_digits(append_wide_digits(begin, word, end), word, end);
+  if (stop == begin || stop - begin > most_word_digits || word > std::numeric_limits<int>::max()) {
+    return false;
+  }
+  const auto magnitude = static_cast<int>(word);
+  value = negative ? -magnitude : magnitude;
+  return true;
+}
+
+// The same for any byte text. The runtime is asked itself where the number may be beyond an int.
+int any_leading_integer(const char* text) {
   const char* digits = skip_white_space(text);
   const bool negative = *digits == '-';
   if (negative || *digits == '+') ++digits;
@@ -108,17 +126,36 @@ inline bool read_integer(const char* text, int& value) {
   return store_whole(word, negative, value);
 }
 
+// The same for a text that ends at `end`, or at a zero byte in front of it.
+inline bool read_integer(const char* text, const char* end, int& value) {
+  const bool negative = byte_at(text, end) == '-';
+  std::uint64_t digits = 0;
+  const char* const stop =
+      append_digits(append_wide_digits(text + negative, digits, end), digits, end);
+  const auto word = static_cast<unsigned int>(digits);
+  if (byte_at(stop, end) != '\0') return read_other_integer(text, word, value, end);
+  return store_whole(word, negative, value);
+}
+
 inline int judge_integer(const char* text) {
   int value;
   if (!read_integer(text, value)) return 0;
   return *text == '-' ? 2 : 1;
 }
 
+bool read_bounded_slice(const char* text, int minimum, int maximum, int& value, int start,
+                        int count) {
+  return read_slice(text, start, count, [&](const char* begin, const char* end, char*) {
+    return read_integer(begin, end, value) && within_bounds(minimum, value, maximum);
+  });
+}
+
 }  // namespace
 
 bool read_integer_slice(const char* text, int start, int count, int& value) {
-  return read_slice(text, start, count,
-                    [&](const char* slice) { return read_integer(slice, value); });
+  return read_slice(text, start, count, [&](const char* begin, const char* end, char*) {
+    return read_integer(begin, end, value);
+  });
 }
 
 }  // namespace zeph
@@ -164,23 +201,21 @@ bool Zeph_To_Int(const std::string& text, int minimum, int maximum, int* value) 
 }
 
 bool Zeph_To_Int(const char* text, int minimum, int maximum, int* value, int start, int count) {
-  return zeph::read_integer_slice(text, start, count, *value) &&
-         zeph::within_bounds(minimum, *value, maximum);
+  return zeph::read_bounded_slice(text, minimum, maximum, *value, start, count);
 }
 
 bool Zeph_To_Int(const std::string& text, int minimum, int maximum, int* value, int start,
                  int count) {
-  return zeph::read_integer_slice(text.c_str(), start, count, *value) &&
-         zeph::within_bounds(minimum, *value, maximum);
+  return zeph::read_bounded_slice(text.c_str(), minimum, maximum, *value, start, count);
 }
 
 int Zeph_Ext_Int_From_Str(const char* text, int start, int count) {
   return zeph::convert_short_slice(text, start, count, "[Zeph] Ext_Int_From_Str Size Error",
-                                   zeph::leading_integer);
+                                   zeph::leading_integer, zeph::any_leading_integer);
 }
 
 int Zeph_Ext_Int_From_Str(const char* text, int start, int count, char* buffer) {
-  return zeph::convert_slice(text, start, count, buffer, zeph::leading_integer);
+  return zeph::convert_slice(text, start, count, buffer, zeph::any_leading_integer);
 }
 
 int Zeph_HexStr_to_DecInt(const char* text) {

@@ -1,5 +1,5 @@
-#include "number/real_text.h"
-
+// Real-number text. Two judges look at a text: a test that counts bytes decides whether it is one,
+// and a scan that reads from the start decides its value.
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
@@ -13,7 +13,9 @@
 #include "zeph.h"
 
 namespace zeph {
+namespace {
 
+// 0 if the text fails the test, 2 if it passes and holds exactly one '-', else 1.
 int judge_real(const char* text) {
   int points = 0, letters = 0, minuses = 0, pluses = 0;
   bool has_digit = false;
@@ -41,7 +43,44 @@ int judge_real(const char* text) {
   return minuses == 1 ? 2 : 1;
 }
 
-namespace {
+// A slice of a text that may go on behind it. It becomes a byte text in a work buffer, but only for
+// those who need one.
+struct Slice {
+  const char* begin;
+  const char* end;
+  char* work;
+};
+
+// What the readers ask of a text: of a byte text, whose end a zero byte tells, and of a slice,
+// which may have a zero byte in front of its end.
+inline const char* begin_of(const char* text) {
+  return text;
+}
+inline const char* begin_of(const Slice* slice) {
+  return slice->begin;
+}
+inline char byte_in(const char*, const char* place) {
+  return *place;
+}
+inline char byte_in(const Slice* slice, const char* place) {
+  return byte_at(place, slice->end);
+}
+inline const char* digits_end(const char*, const char* place, std::uint64_t& word) {
+  return append_digits(place, word);
+}
+inline const char* digits_end(const Slice* slice, const char* place, std::uint64_t& word) {
+  return append_digits(place, word, slice->end);
+}
+inline const char* exponent_end(const char*, const char* place, std::int64_t& exponent) {
+  return add_exponent(place, exponent);
+}
+inline const char* exponent_end(const Slice*, const char* place, std::int64_t&) {
+  return place;  // left to those who read a byte text
+}
+inline const char* byte_text(const Slice* slice) {
+  put_text(slice->work, slice->begin, static_cast<std::size_t>(slice->end - slice->begin));
+  return slice->work;
+}
 
 // What the runtime's scan reads in a locale with another decimal point. It stays out of the way of
 // the others, who need no room on the stack.
@@ -58,9 +97,14 @@ namespace {
   if (!decimal_point_is_dot()) value = scan_real(text);
   return true;
 }
+inline bool confirm_point(const Slice* slice, double& value) {
+  if (!decimal_point_is_dot()) value = scan_real(byte_text(slice));
+  return true;
+}
 
-inline bool store_real(const char* text, double magnitude, bool has_point, double& value) {
-  value = *text == '-' ? -magnitude : magnitude;
+template <typename Text>
+inline bool store_real(Text text, double magnitude, bool has_point, double& value) {
+  value = *begin_of(text) == '-' ? -magnitude : magnitude;
   return has_point ? confirm_point(text, value) : true;
 }
 
@@ -74,6 +118,9 @@ inline bool store_real(const char* text, double magnitude, bool has_point, doubl
   value = number.value;
   return number.has_point ? confirm_point(text, value) : true;
 }
+inline bool read_any_real(const Slice* slice, double& value) {
+  return read_any_real(byte_text(slice), value);
+}
 
 // Whether a byte that is no digit stands in no number, nor in what the test takes for one.
 inline bool is_foreign(char byte) {
@@ -83,41 +130,59 @@ inline bool is_foreign(char byte) {
 // Whether the digits of a text up to their end, a point among them or not, surely fit a word.
 inline bool fits_word(const char* text, const char* end, bool has_point) {
   if (end - text <= most_word_digits + has_point) return true;
-  while (*text == '0' || *text == '.' || *text == '-') ++text;
+  while (text != end && (*text == '0' || *text == '.' || *text == '-')) ++text;
   return end - text <= most_word_digits;
 }
 
 // Goes on behind the digits, which end at `end` and make `word`. At least one has been read.
-inline bool read_behind_digits(const char* text, const char* end, std::int64_t exponent,
-                               bool has_point, std::uint64_t word, double& value) {
-  if (!fits_word(text, end, has_point)) return read_any_real(text, value);
-  end = add_exponent(end, exponent);
-  if (is_foreign(*end)) return false;
+template <typename Text>
+inline bool read_behind_digits(Text text, const char* end, std::int64_t exponent, bool has_point,
+                               std::uint64_t word, double& value) {
+  if (!fits_word(begin_of(text), end, has_point)) return read_any_real(text, value);
+  end = exponent_end(text, end, exponent);
+  const char behind = byte_in(text, end);
+  if (is_foreign(behind)) return false;
   double number;
   const bool settled =
-      *end == '\0' && (scale_small(word, exponent, number) || scale_wide(word, exponent, number));
+      behind == '\0' && (scale_small(word, exponent, number) || scale_wide(word, exponent, number));
   return settled ? store_real(text, number, has_point, value) : read_any_real(text, value);
 }
 
-[[gnu::noinline]] bool read_rest(const char* text, const char* end, std::int64_t exponent,
-                                 bool has_point, std::uint64_t word, double& value) {
-  return read_behind_digits(text, end, exponent, has_point, word, value);
-}
-
-[[gnu::noinline]] bool read_long_fraction(const char* text, const char* fraction,
-                                          const char* text_end, std::uint64_t word, double& value) {
-  const char* const end = append_digits(fraction, text_end, word);
+template <typename Text>
+inline bool read_wide_fraction(Text text, const char* fraction, const char* text_end,
+                               std::uint64_t word, double& value) {
+  const char* const end = digits_end(text, append_wide_digits(fraction, word, text_end), word);
   if (end == fraction) return read_any_real(text, value);
   return read_behind_digits(text, end, fraction - end, true, word, value);
 }
 
+// For byte texts out of the way of shorter numbers; for slices, which wait for the heap, in place.
+[[gnu::noinline]] bool read_rest(const char* text, const char* end, std::int64_t exponent,
+                                 bool has_point, std::uint64_t word, double& value) {
+  return read_behind_digits(text, end, exponent, has_point, word, value);
+}
+inline bool read_rest(const Slice* slice, const char* end, std::int64_t exponent, bool has_point,
+                      std::uint64_t word, double& value) {
+  return read_behind_digits(slice, end, exponent, has_point, word, value);
+}
+[[gnu::noinline]] bool read_long_fraction(const char* text, const char* fraction,
+                                          const char* text_end, std::uint64_t word, double& value) {
+  return read_wide_fraction(text, fraction, text_end, word, value);
+}
+inline bool read_long_fraction(const Slice* slice, const char* fraction, const char* text_end,
+                               std::uint64_t word, double& value) {
+  return read_wide_fraction(slice, fraction, text_end, word, value);
+}
+
 // A number with a point. `fraction` is the place behind it; the digits in front make `word`.
-inline bool read_fraction(const char* text, const char* fraction, const char* text_end,
-                          std::uint64_t word, double& value) {
+template <typename Text>
+inline bool read_fraction(Text text, const char* fraction, const char* text_end, std::uint64_t word,
+                          double& value) {
   if (text_end - fraction >= 8) return read_long_fraction(text, fraction, text_end, word, value);
-  const char* const end = append_digits(fraction, word);
+  const char* const end = digits_end(text, fraction, word);
   if (end == fraction) return read_any_real(text, value);
-  if (*end != '\0' || end - text > most_word_digits + 1 || !is_exact_double(word)) {
+  if (byte_in(text, end) != '\0' || end - begin_of(text) > most_word_digits + 1 ||
+      !is_exact_double(word)) {
     return read_rest(text, end, fraction - end, true, word, value);
   }
   return store_real(text, exact_double(word) / small_powers[end - fraction], true, value);
@@ -134,26 +199,64 @@ inline bool read_fraction(const char* text, const char* fraction, const char* te
 }
 
 // `text_end` is passed where it is known. The text may have a zero byte in front of it.
-template <typename... End>
-inline bool read_real(double& value, const char* text, End... text_end) {
-  const char* const begin = text + (*text == '-');
+template <typename Text, typename... End>
+inline bool read_real(double& value, Text text, End... text_end) {
+  const char* const begin = begin_of(text) + (byte_in(text, begin_of(text)) == '-');
   std::uint64_t word = 0;
-  const char* const end = append_digits(begin, word);
-  if (*end == '.') return read_fraction(text, end + 1, text_end..., word, value);
+  const char* const end = digits_end(text, begin, word);
+  const char behind = byte_in(text, end);
+  if (behind == '.') return read_fraction(text, end + 1, text_end..., word, value);
   if (end == begin) return read_any_real(text, value);
-  if (*end != '\0' || end - text > most_word_digits) {
+  if (behind != '\0' || end - begin_of(text) > most_word_digits) {
     return read_rest(text, end, 0, false, word, value);
   }
   return store_real(text, static_cast<double>(word), false, value);
 }
 
-}  // namespace
-
-bool read_real_slice(const char* text, int start, int count, double& value) {
-  return read_slice(text, start, count, [&](const char* slice) { return read_real(value, slice); });
+inline bool read_real(double& value, const char* begin, const char* end, char* work) {
+  const Slice slice{begin, end, work};
+  return read_real(value, &slice, end);
 }
 
-double leading_real(const char* text) {
+bool read_bounded_slice(const char* text, double minimum, double maximum, double& value, int start,
+                        int count) {
+  return read_slice(text, start, count, [&](const char* begin, const char* end, char* work) {
+    return read_real(value, begin, end, work) && within_bounds(minimum, value, maximum);
+  });
+}
+
+bool read_real_slice(const char* text, int start, int count, double& value) {
+  return read_slice(text, start, count, [&](const char* begin, const char* end, char* work) {
+    return read_real(value, begin, end, work);
+  });
+}
+
+// What the runtime's atof reads in most slices: declines where white space or a '+' comes first, no
+// digit, many digits, an exponent or what may be hexadecimal.
+inline bool leading_real(const char* text, const char* end, double& value) {
+  const bool negative = byte_at(text, end) == '-';
+  const char* const begin = text + negative;
+  std::uint64_t word = 0;
+  const char* stop = append_digits(begin, word, end);
+  std::ptrdiff_t decimals = 0;
+  if (byte_at(stop, end) == '.') {
+    const char* const fraction = stop + 1;
+    stop = append_digits(append_wide_digits(fraction, word, end), word, end);
+    decimals = stop - fraction;
+    if (stop - begin == 1) return false;
+  }
+  const int behind = byte_at(stop, end) | 0x20;
+  if (stop == begin || stop - begin > most_word_digits || behind == 'e' || behind == 'x' ||
+      !is_exact_double(word) || !decimal_point_is_dot()) {
+    return false;
+  }
+  const double magnitude = exact_double(word) / small_powers[decimals];
+  value = negative ? -magnitude : magnitude;
+  return true;
+}
+
+// The same for any byte text.
+double any_leading_real(const char* text) {
   if (decimal_point_is_dot()) {
     const char* const number = skip_white_space(text);
     const Decimal decimal = read_decimal(number);
@@ -167,6 +270,7 @@ double leading_real(const char* text) {
   return behind == text ? 0.0 : value;  // some runtimes make -0.0 of a '-' without a number
 }
 
+}  // namespace
 }  // namespace zeph
 
 namespace Orbane {
@@ -206,23 +310,21 @@ bool Zeph_To_Double(const std::string& text, double minimum, double maximum, dou
 
 bool Zeph_To_Double(const char* text, double minimum, double maximum, double* value, int start,
                     int count) {
-  return zeph::read_real_slice(text, start, count, *value) &&
-         zeph::within_bounds(minimum, *value, maximum);
+  return zeph::read_bounded_slice(text, minimum, maximum, *value, start, count);
 }
 
 bool Zeph_To_Double(const std::string& text, double minimum, double maximum, double* value,
                     int start, int count) {
-  return zeph::read_real_slice(text.c_str(), start, count, *value) &&
-         zeph::within_bounds(minimum, *value, maximum);
+  return zeph::read_bounded_slice(text.c_str(), minimum, maximum, *value, start, count);
 }
 
 double Zeph_Ext_Dbl_From_Str(const char* text, int start, int count) {
   return zeph::convert_short_slice(text, start, count, "[ZEPH_API] Ext_Dbl_From_Str Size Error",
-                                   zeph::leading_real);
+                                   zeph::leading_real, zeph::any_leading_real);
 }
 
 double Zeph_Ext_Dbl_From_Str(const char* text, int start, int count, char* buffer) {
-  return zeph::convert_slice(text, start, count, buffer, zeph::leading_real);
+  return zeph::convert_slice(text, start, count, buffer, zeph::any_leading_real);
 }
 
 }  // namespace Orbane

@@ -1,5 +1,4 @@
-// Slices of a text as byte texts of their own: what lies behind a slice may continue the number, so
-// that the readers need a terminator that the text itself does not have.
+// Slices of a text: what lies behind one may continue the number.
 #ifndef ZEPH_NUMBER_SLICES_H
 #define ZEPH_NUMBER_SLICES_H
 
@@ -11,10 +10,12 @@
 
 namespace zeph {
 
-// Gives read() the slice in a work buffer. False if the heap refuses the buffer, which is reported.
-// A negative count is a size that no heap grants; the heap is not even asked.
+// Gives read() both ends of the slice and a work buffer with room for it as a byte text. False if
+// the heap refuses the buffer, which the interface promises to ask for, and which is reported. A
+// negative count is a size that no heap grants; the heap is not even asked. Always inlined, as what
+// read() refers to would go through memory otherwise.
 template <typename Read>
-bool read_slice(const char* text, int start, int count, Read read) {
+[[gnu::always_inline]] inline bool read_slice(const char* text, int start, int count, Read read) {
   if (count < 0) {
     report_refused_work_buffer();
     return false;
@@ -22,8 +23,7 @@ bool read_slice(const char* text, int start, int count, Read read) {
   const auto size = static_cast<std::size_t>(count);
   const WorkBuffers<1> work(size + 1);
   if (!work.complete()) return false;
-  put_text(work[0], text + start, size);
-  return read(work[0]);
+  return read(text + start, text + start + size, work[0]);
 }
 
 // Cuts the slice into the caller's buffer and converts it. No buffer has room for a negative count,
@@ -39,18 +39,27 @@ auto convert_slice(const char* text, int start, int count, char* buffer, Convert
 // What the lenient readers' own buffer takes, terminator not counted.
 constexpr unsigned int longest_short_slice = 255;
 
-// The same in a buffer of our own. A longer slice, which a negative count is as an unsigned number,
-// is reported with `message`, and the result is 0.
+// The same in a buffer of our own. It stays out of the way of those who need no room on the stack.
 template <typename Convert>
-auto convert_short_slice(const char* text, int start, int count, const char* message,
-                         Convert convert) {
+[[gnu::noinline]] auto convert_copy(const char* text, int start, int count, Convert convert) {
   char buffer[longest_short_slice + 1];
-  using Number = decltype(convert(buffer));
+  return convert_slice(text, start, count, buffer, convert);
+}
+
+// Converts a slice where it stands, if convert_most(begin, end, number) settles it, and as a byte
+// text otherwise. A slice too long for that, which a negative count is as an unsigned number, is
+// reported with `message`, and the result is 0.
+template <typename Most, typename Convert>
+auto convert_short_slice(const char* text, int start, int count, const char* message,
+                         Most convert_most, Convert convert) {
+  using Number = decltype(convert(text));
   if (static_cast<unsigned int>(count) > longest_short_slice) {
     Diag_Banner("%s", message);
     return Number{0};
   }
-  return convert_slice(text, start, count, buffer, convert);
+  Number number;
+  if (convert_most(text + start, text + start + count, number)) return number;
+  return convert_copy(text, start, count, convert);
 }
 
 }  // namespace zeph
