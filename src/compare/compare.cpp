@@ -42,8 +42,7 @@ bool equal_folded_prefix(const char* a, const char* b, std::size_t limit) {
   return strncasecmp(a, b, limit) == 0;
 }
 
-// Where the first bytes of two Strings did not settle it. Long ones of one size are compared as a
-// whole; short ones were. Those that differ are equal all the same if a zero byte ends both before.
+// Strings that are long, of two sizes, or perhaps equal up to a zero byte.
 template <typename EqualTexts>
 [[gnu::noinline]] bool equal_far(const std::string& a, const std::string& b, std::size_t size_a,
                                  std::size_t size_b, EqualTexts equal_texts) {
@@ -58,21 +57,23 @@ template <typename EqualTexts>
 template <typename EqualTexts>
 inline bool equal(const std::string& a, const std::string& b, std::size_t size_a,
                   std::size_t size_b, EqualTexts equal_texts) {
-  if (size_a == size_b && size_a <= short_range && same_short_bytes(a.data(), b.data(), size_a)) {
-    return true;
+  if (__builtin_expect(size_a == size_b && size_a <= short_range, 1)) {
+    const Likeness likeness = likeness_of_short_texts(a.data(), b.data(), size_a);
+    if (likeness != Likeness::undecided) return likeness == Likeness::same;
   }
   return equal_far(a, b, size_a, size_b, equal_texts);
 }
 
 bool equal(const std::string& a, const std::string& b) {
-  if (*a.c_str() != *b.c_str()) return false;
-  const auto equal_texts = [](const char* x, const char* y) { return equal(x, y); };
+  if (__builtin_expect(*a.c_str() != *b.c_str(), 0)) return false;
+  const auto equal_texts = [](const char* x, const char* y) { return std::strcmp(x, y) == 0; };
   return equal(a, b, a.size(), b.size(), equal_texts);
 }
 
 bool equal_prefix(const std::string& a, const std::string& b, std::size_t limit) {
+  if (__builtin_expect(*a.c_str() != *b.c_str(), 0)) return limit == 0;
   const auto equal_texts = [limit](const char* x, const char* y) {
-    return equal_prefix(x, y, limit);
+    return std::strncmp(x, y, limit) == 0;
   };
   return equal(a, b, std::min(a.size(), limit), std::min(b.size(), limit), equal_texts);
 }

@@ -30,24 +30,63 @@ bool same_ends(const char* a, const char* b, std::size_t size) {
 // call.
 constexpr std::size_t short_range = 64;
 
+#ifdef ZEPH_SCAN_SSE2
+
+// Ranges of 16 to 64 bytes as four vectors each, which overlap in the shorter ones: no size takes
+// another path than the others.
+struct VectorPairs {
+  __m128i a[4], b[4];
+
+  VectorPairs(const char* from_a, const char* from_b, std::size_t size) {
+    const std::size_t second = size < 32 ? size - 16 : 16;
+    const std::size_t places[] = {0, second, size - 16 - second, size - 16};
+    for (int i = 0; i < 4; ++i) {
+      a[i] = load_16(from_a + places[i]);
+      b[i] = load_16(from_b + places[i]);
+    }
+  }
+  bool same() const {
+    __m128i equal = _mm_cmpeq_epi8(a[0], b[0]);
+    for (int i = 1; i < 4; ++i) equal = _mm_and_si128(equal, _mm_cmpeq_epi8(a[i], b[i]));
+    return bits_of(equal) == 0xFFFF;
+  }
+  bool has_zero() const {
+    const __m128i least = _mm_min_epu8(_mm_min_epu8(a[0], a[1]), _mm_min_epu8(a[2], a[3]));
+    return bits_of(_mm_cmpeq_epi8(least, _mm_setzero_si128())) != 0;
+  }
+};
+
+#endif
+
 inline bool same_short_bytes(const char* a, const char* b, std::size_t size) {
   if (size < 16) {
-    if (size >= 8) return same_ends<std::uint64_t>(a, b, size);
+    if (__builtin_expect(size >= 8, 1)) return same_ends<std::uint64_t>(a, b, size);
     if (size >= 4) return same_ends<std::uint32_t>(a, b, size);
     if (size >= 2)
       return (word_difference<std::uint16_t>(a, b) == 0) & (a[size - 1] == b[size - 1]);
     return size == 0 || *a == *b;
   }
 #ifdef ZEPH_SCAN_SSE2
-  const auto equal = [a, b](std::size_t at) {
-    return _mm_cmpeq_epi8(load_16(a + at), load_16(b + at));
-  };
-  __m128i both = _mm_and_si128(equal(0), equal(size - 16));
-  if (size > 32) both = _mm_and_si128(both, _mm_and_si128(equal(16), equal(size - 32)));
-  return bits_of(both) == 0xFFFF;
+  return VectorPairs(a, b, size).same();
 #else
   return std::memcmp(a, b, size) == 0;
 #endif
+}
+
+enum class Likeness { same, different, undecided };
+
+// Whether two ranges of one size hold the same text, by one look. Undecided where they differ, but
+// perhaps behind a zero byte that ends both texts.
+[[gnu::always_inline]] inline Likeness likeness_of_short_texts(const char* a, const char* b,
+                                                               std::size_t size) {
+#ifdef ZEPH_SCAN_SSE2
+  if (__builtin_expect(size >= 16, 1)) {
+    const VectorPairs pairs(a, b, size);
+    if (__builtin_expect(pairs.same(), 1)) return Likeness::same;
+    return __builtin_expect(pairs.has_zero(), 0) ? Likeness::undecided : Likeness::different;
+  }
+#endif
+  return __builtin_expect(same_short_bytes(a, b, size), 1) ? Likeness::same : Likeness::undecided;
 }
 
 }  // namespace zeph
