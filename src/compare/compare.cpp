@@ -17,28 +17,35 @@
 namespace zeph {
 namespace {
 
-// Most texts that differ do so in their first byte, and then no service is called at all.
+// Most texts that differ do so in their first byte, and then no service is called at all. The
+// others fall through to it: on so short a way each jump counts.
+bool first_bytes_differ(const char* a, const char* b) {
+  return __builtin_expect(*a != *b, 0);
+}
+
+// Whether no locale folds the two first bytes alike: ASCII bytes, more than a case apart.
+bool first_bytes_never_fold_alike(const char* a, const char* b) {
+  const auto x = static_cast<unsigned char>(*a), y = static_cast<unsigned char>(*b);
+  return __builtin_expect(((x ^ y) & ~0x20) != 0, 0) && (x | y) < 0x80;
+}
+
 bool equal(const char* a, const char* b) {
-  return *a == *b && std::strcmp(a, b) == 0;
+  if (first_bytes_differ(a, b)) return false;
+  return std::strcmp(a, b) == 0;
 }
 
 bool equal_prefix(const char* a, const char* b, std::size_t limit) {
-  if (limit != 0 && *a != *b) return false;
+  if (__builtin_expect(limit != 0, 1) && first_bytes_differ(a, b)) return false;
   return std::strncmp(a, b, limit) == 0;
 }
 
-// Whether no locale folds the two to the same byte: ASCII bytes, more than a case apart.
-bool never_fold_alike(char a, char b) {
-  const auto x = static_cast<unsigned char>(a), y = static_cast<unsigned char>(b);
-  return (x | y) < 0x80 && ((x ^ y) & ~0x20) != 0;
-}
-
 bool equal_folded(const char* a, const char* b) {
-  return !never_fold_alike(*a, *b) && strcasecmp(a, b) == 0;
+  if (first_bytes_never_fold_alike(a, b)) return false;
+  return strcasecmp(a, b) == 0;
 }
 
 bool equal_folded_prefix(const char* a, const char* b, std::size_t limit) {
-  if (limit != 0 && never_fold_alike(*a, *b)) return false;
+  if (__builtin_expect(limit != 0, 1) && first_bytes_never_fold_alike(a, b)) return false;
   return strncasecmp(a, b, limit) == 0;
 }
 
@@ -65,13 +72,13 @@ inline bool equal(const std::string& a, const std::string& b, std::size_t size_a
 }
 
 bool equal(const std::string& a, const std::string& b) {
-  if (__builtin_expect(*a.c_str() != *b.c_str(), 0)) return false;
+  if (first_bytes_differ(a.c_str(), b.c_str())) return false;
   const auto equal_texts = [](const char* x, const char* y) { return std::strcmp(x, y) == 0; };
   return equal(a, b, a.size(), b.size(), equal_texts);
 }
 
 bool equal_prefix(const std::string& a, const std::string& b, std::size_t limit) {
-  if (__builtin_expect(*a.c_str() != *b.c_str(), 0)) return limit == 0;
+  if (first_bytes_differ(a.c_str(), b.c_str())) return limit == 0;
   const auto equal_texts = [limit](const char* x, const char* y) {
     return std::strncmp(x, y, limit) == 0;
   };
@@ -88,7 +95,7 @@ constexpr std::size_t long_text = 256;
 }
 
 bool equal_folded(const std::string& a, const std::string& b) {
-  if (never_fold_alike(*a.c_str(), *b.c_str())) return false;
+  if (first_bytes_never_fold_alike(a.c_str(), b.c_str())) return false;
   // Short texts, which are most, go straight on.
   if (__builtin_expect(a.size() >= long_text, 0) && a.size() == b.size())
     return long_equal_folded(a, b);
