@@ -1,7 +1,6 @@
 #include "frame/fixed_buffers.h"
 
-#include <charconv>
-
+#include "frame/put_integer.h"
 #include "number/real_format.h"
 #include "zeph.h"
 
@@ -13,6 +12,12 @@ namespace {
   if (size == 0) return;
   const std::size_t room = content_room(size);
   put_text(out, text, length < room ? length : room);
+}
+
+// Where the room may be too small. It stays out of the way of those who need no room on the stack.
+[[gnu::noinline]] void put_cut_integer(char* out, int value, int size) {
+  char digits[longest_integer];
+  put_cut(out, digits, static_cast<std::size_t>(put_integer(digits, value) - digits), size);
 }
 
 }  // namespace
@@ -28,14 +33,11 @@ bool Zeph_Copy_Stack(char* target, const char* source, int size) {
 }
 
 bool Zeph_Copy_Stack(char* target, int value, int size) {
-  constexpr int longest = sizeof "-2147483648";
-  if (size < 0 || size >= longest) {
-    *std::to_chars(target, target + longest - 1, value).ptr = '\0';
-    return true;
+  if (__builtin_expect(size < 0 || size >= static_cast<int>(zeph::longest_integer), 1)) {
+    zeph::put_integer(target, value);
+  } else {
+    zeph::put_cut_integer(target, value, size);
   }
-  char digits[longest] = "";
-  const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-  zeph::put_cut(target, digits, static_cast<std::size_t>(end - digits), size);
   return true;
 }
 

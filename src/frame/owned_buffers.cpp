@@ -22,19 +22,22 @@ void report_refused_work_buffer() {
   Diag_Banner("[Zeph] Memory calloc Fail in Zeph_Prepare_Mem");
 }
 
-bool prepare_block(char*& block, std::size_t size) {
-  if (block) {
-    const std::size_t capacity = block_capacity(block);
-    if (capacity == unknown_block) {
-      Diag_Banner("[Zeph] Invalid pointer in Zeph_Prepare_Mem");
-      return false;
-    }
-    if (size <= capacity) return true;
-    release_block(block);
-  }
+// Most blocks are there and large enough. All else stays out of their way.
+[[gnu::noinline]] static bool replace_block(char*& block, std::size_t size) {
+  if (block) release_block(block);
   block = request_block(size);
   if (!block) report_refused_work_buffer();
   return block != nullptr;
+}
+
+bool prepare_block(char*& block, std::size_t size) {
+  if (__builtin_expect(!block, 0)) return replace_block(block, size);
+  const std::size_t capacity = block_capacity(block);
+  if (__builtin_expect(capacity == unknown_block, 0)) {
+    Diag_Banner("[Zeph] Invalid pointer in Zeph_Prepare_Mem");
+    return false;
+  }
+  return __builtin_expect(size <= capacity, 1) || replace_block(block, size);
 }
 
 namespace {
@@ -110,7 +113,7 @@ bool Zeph_Copy_Mem(char* target, int start, const char* source, int count) {
 bool Zeph_Prepare_Mem(char** buffer, int size) {
   // As an unsigned size, a negative one is beyond what any heap grants. The heap is not even asked:
   // checking heaps take such a request for a fault and stop the process.
-  if (size < 0 && !*buffer) {
+  if (__builtin_expect(size < 0 && !*buffer, 0)) {
     zeph::report_refused_work_buffer();
     return false;
   }
@@ -122,7 +125,10 @@ void Zeph_Release_Mem(char** buffer) {
 }
 
 char* Zeph_Set_Mem(char* block, int value, unsigned int count) {
-  return count > 0 ? static_cast<char*>(std::memset(block, value, count)) : block;
+  if (count == 0) return block;
+  if (__builtin_expect(count > 64, 0)) return static_cast<char*>(std::memset(block, value, count));
+  zeph::fill_short(block, value, count);
+  return block;
 }
 
 }  // namespace Orbane

@@ -1,29 +1,18 @@
 // Texts and numbers appended to a byte text, and formats printed into a String.
 #include <algorithm>
-#include <charconv>
 #include <cstdarg>
 #include <cstring>
 #include <new>
 
 #include "frame/fixed_buffers.h"
 #include "frame/formatted_text.h"
+#include "frame/put_integer.h"
 #include "number/real_format.h"
 #include "rewrite/plain_print.h"
 #include "zeph.h"
 
 namespace zeph {
 namespace {
-
-// Appends `size` bytes and a terminator.
-inline char* append(char* text, const char* bytes, std::size_t size) {
-  put_text(text + std::strlen(text), bytes, size);
-  return text;
-}
-
-// One copy of it serves all numbers.
-[[gnu::noinline]] char* append_number(char* text, const char* digits, const char* end) {
-  return append(text, digits, static_cast<std::size_t>(end - digits));
-}
 
 // The printed text, cut to a buffer of `size` bytes, up to its first zero byte. Short texts are
 // printed once and take no heap but the result's; a longer one is printed again into the result.
@@ -56,21 +45,21 @@ std::string splice(std::size_t size, const char* format, std::va_list arguments)
 namespace Orbane {
 
 char* Zeph_Cat(char* text, const char* more) {
-  return zeph::append(text, more, std::strlen(more));
+  char* const end = text + std::strlen(text);
+  zeph::move_bytes(end, more, std::strlen(more) + 1);
+  return text;
 }
 
 char* Zeph_Cat(char* text, char byte) {
   if (byte == '\0') return text;
-  char* const end = text + std::strlen(text);
-  end[0] = byte;
-  end[1] = '\0';
+  const char with_terminator[] = {byte, '\0'};
+  std::memcpy(text + std::strlen(text), with_terminator, sizeof with_terminator);
   return text;
 }
 
 char* Zeph_Cat(char* text, int value) {
-  char digits[sizeof "-2147483648"];
-  const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-  return zeph::append_number(text, digits, end);
+  zeph::put_integer(text + std::strlen(text), value);
+  return text;
 }
 
 char* Zeph_Cat(char* text, float value) {
@@ -79,7 +68,9 @@ char* Zeph_Cat(char* text, float value) {
 
 char* Zeph_Cat(char* text, double value) {
   char digits[zeph::longest_real];
-  return zeph::append_number(text, digits, digits + zeph::put_real(digits, value));
+  const std::size_t size = zeph::put_real(digits, value) + 1;
+  zeph::move_bytes(text + std::strlen(text), digits, size);
+  return text;
 }
 
 std::string Zeph_Splicing(int size, const char* format, ...) {

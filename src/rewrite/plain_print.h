@@ -7,6 +7,7 @@
 #include <cstdarg>
 #include <cstring>
 
+#include "frame/put_integer.h"
 #include "number/real_format.h"
 #include "scan/move_bytes.h"
 
@@ -79,13 +80,13 @@ class PlainPrint {
         return put_text(directive, va_arg(arguments, const char*));
       case 'd':
       case 'i':
-        return put_integer(directive, in_digits(va_arg(arguments, int), 10));
+        return end_integer(directive, put_integer(out_, va_arg(arguments, int)));
       case 'u':
-        return put_integer(directive, in_digits(va_arg(arguments, unsigned), 10));
+        return end_integer(directive, put_unsigned(out_, va_arg(arguments, unsigned)));
       case 'x':
-        return put_integer(directive, in_digits(va_arg(arguments, unsigned), 16));
+        return end_integer(directive, put_hexadecimal(va_arg(arguments, unsigned)));
       case 'X':
-        return put_upper_case(directive, in_digits(va_arg(arguments, unsigned), 16));
+        return end_upper_case(directive, put_hexadecimal(va_arg(arguments, unsigned)));
       case 'c':
         return put_byte(directive, static_cast<char>(va_arg(arguments, int)));
       case 'f':
@@ -136,21 +137,20 @@ class PlainPrint {
     return end_field(directive, out_ + 1);
   }
 
-  template <typename Integer>
-  std::to_chars_result in_digits(Integer value, int base) {
-    return std::to_chars(out_, out_ + slack, value, base);
+  char* put_hexadecimal(unsigned value) {
+    return std::to_chars(out_, out_ + slack, value, 16).ptr;
   }
 
   // An integer that stands there in digits. Its precision is left to the runtime.
-  bool put_integer(const Directive& directive, std::to_chars_result digits) {
-    return directive.precision < 0 ? end_field(directive, digits.ptr) : false;
+  bool end_integer(const Directive& directive, char* end) {
+    return directive.precision < 0 ? end_field(directive, end) : false;
   }
 
-  bool put_upper_case(const Directive& directive, std::to_chars_result digits) {
-    for (char* digit = out_; digit != digits.ptr; ++digit) {
+  bool end_upper_case(const Directive& directive, char* end) {
+    for (char* digit = out_; digit != end; ++digit) {
       if (*digit > '9') *digit = static_cast<char>(*digit - 'a' + 'A');
     }
-    return put_integer(directive, digits);
+    return end_integer(directive, end);
   }
 
   bool put_real(const Directive& directive, double value) {

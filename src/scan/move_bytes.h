@@ -1,4 +1,4 @@
-// Copying where most pieces are short.
+// Copying and filling where most pieces are short.
 #ifndef ZEPH_SCAN_MOVE_BYTES_H
 #define ZEPH_SCAN_MOVE_BYTES_H
 
@@ -62,6 +62,29 @@ inline void move_bytes(char* to, const char* from, std::size_t size) {
     move_ends_32(to, from, size);
   } else {
     std::memmove(to, from, size);
+  }
+}
+
+// Fills at least `half` and at most twice as many bytes.
+template <std::size_t half>
+void fill_ends(char* to, int byte, std::size_t size) {
+  std::memset(to, byte, half);
+  std::memset(to + size - half, byte, half);
+}
+
+// Fills 1 to 64 bytes without a call.
+inline void fill_short(char* to, int byte, std::size_t size) {
+  if (__builtin_expect(size >= 16, 1)) {
+    const std::size_t second = size < 32 ? size - 16 : 16;
+    fill_ends<16>(to, byte, second + 16);
+    fill_ends<16>(to + size - 16 - second, byte, second + 16);
+  } else if (__builtin_expect(size >= 8, 1)) {
+    fill_ends<8>(to, byte, size);
+  } else if (size >= 4) {
+    fill_ends<4>(to, byte, size);
+  } else {
+    *to = static_cast<char>(byte);
+    to[size / 2] = to[size - 1] = *to;
   }
 }
 

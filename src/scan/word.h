@@ -22,6 +22,12 @@ inline void store_word(char* to, std::uint64_t word) {
   std::memcpy(to, &word, word_size);
 }
 
+// The first bytes of the word alone.
+template <std::size_t size>
+void store_low_bytes(char* to, std::uint64_t word) {
+  std::memcpy(to, &word, size);
+}
+
 #else
 
 inline std::uint64_t load_word(const char* from) {
@@ -30,8 +36,13 @@ inline std::uint64_t load_word(const char* from) {
   return word;
 }
 
+template <std::size_t size>
+void store_low_bytes(char* to, std::uint64_t word) {
+  for (std::size_t i = 0; i < size; ++i) to[i] = static_cast<char>(word >> 8 * i);
+}
+
 inline void store_word(char* to, std::uint64_t word) {
-  for (std::size_t i = 0; i < word_size; ++i) to[i] = static_cast<char>(word >> 8 * i);
+  store_low_bytes<word_size>(to, word);
 }
 
 #endif

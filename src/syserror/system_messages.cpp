@@ -1,8 +1,8 @@
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 
+#include "frame/put_integer.h"
 #include "platform/platform.h"
 #include "syserror/message_table.h"
 #include "zeph.h"
@@ -20,7 +20,7 @@ static_assert(sizeof fallback_start + sizeof "-2147483648]" <= result_size);
 void put_fallback(char* out, std::uint32_t code) {
   std::memcpy(out, fallback_start, sizeof fallback_start - 1);
   char* const digits = out + sizeof fallback_start - 1;
-  *std::to_chars(digits, out + result_size, static_cast<std::int32_t>(code)).ptr = ']';
+  *put_integer(digits, static_cast<std::int32_t>(code)) = ']';
 }
 
 // Writes the message of `code` to `out`, which holds zero bytes.
