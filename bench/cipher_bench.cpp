@@ -125,7 +125,7 @@ void add_key_row(const unsigned char* key) {
   Keys& k = keep(Keys{});
   std::copy(key, key + sizeof k.key, k.key);
   Row& reset = row("cipher", "Zeph_Encrypt_Reset_Key", "32 bytes", sizeof k.key);
-  reset.reason("the schedule is written for keys of all sizes, and its working copies are wiped");
+  reset.reason("one schedule for keys of all sizes, word by word");
   const auto by_zeph = [&k] {
     k.last = Holder::zeph;
     return Orbane::Zeph_Encrypt_Reset_Key(sizeof k.key, k.key), true;

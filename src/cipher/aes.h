@@ -28,11 +28,12 @@ class AesContext {
   unsigned char w[240];   // the key of round r is the 16 bytes from 16 * r; zero behind the last
 
   // Fills `w` from `key`, `Nk` and `Nr`. Each word is made in its place, so that no byte of the key
-  // is left anywhere else. `substitute` gives the S-box's bytes for the four of a word.
-  template <typename Substitute>
-  constexpr void ExpandKey(Substitute substitute);
+  // is left anywhere else. `Words` loads and stores words, as numbers whose lowest byte is the
+  // first, and gives the S-box's bytes for the four of a word. Inlined, as it takes on the
+  // instructions of its caller then.
+  template <typename Words>
+  [[gnu::always_inline]] constexpr void ExpandKey();
 
-  // The same by the S-box as a table: loads that depend on the key.
   constexpr void KeyExpansion();
 };
 
@@ -55,41 +56,44 @@ inline void DecryptBlock(const unsigned char* in, unsigned char* out) {
   DecryptBlocks(in, out, 1);
 }
 
-// The four bytes of a word as one number, the first one lowest: the compiler makes one load or
-// store of them where the processor has them in that order.
-constexpr std::uint32_t key_word(const unsigned char* bytes) {
-  std::uint32_t word = 0;
-  for (int k = 0; k < 4; ++k) word |= static_cast<std::uint32_t>(bytes[k]) << 8 * k;
-  return word;
-}
-
-constexpr void put_key_word(unsigned char* bytes, std::uint32_t word) {
-  for (int k = 0; k < 4; ++k) bytes[k] = static_cast<unsigned char>(word >> 8 * k);
-}
-
-template <typename Substitute>
-constexpr void AesContext::ExpandKey(Substitute substitute) {
-  for (unsigned char& byte : w) byte = 0;
-  for (int i = 0; i < 4 * Nk; ++i) w[i] = key[i];
-  std::uint32_t word = key_word(w + 4 * (Nk - 1));
+template <typename Words>
+constexpr void AesContext::ExpandKey() {
+  const int key_words = Nk, words = 4 * Nr + 4;
+  // All of the key, whatever counts of it: what does not is made anew.
+  for (std::size_t i = 0; i < sizeof key; i += 4) Words::store(w + i, Words::load(key + i));
+  std::uint32_t word = Words::load(key + 4 * (key_words - 1));
   int place = 0, turn = 1;  // of the word among Nk of them, and the number of these
-  for (int i = Nk; i < 4 * Nr + 4; ++i) {
-    if (place == 0) word = substitute(word >> 8 | word << 24) ^ Rcon[turn++];
-    if (place == 4 && Nk > 6) word = substitute(word);
-    word ^= key_word(w + 4 * (i - Nk));
-    put_key_word(w + 4 * i, word);
-    if (++place == Nk) place = 0;
+  for (int i = key_words; i < words; ++i) {
+    if (place == 0) word = Words::substitute(word >> 8 | word << 24) ^ Rcon[turn++];
+    if (place == 4 && key_words > 6) word = Words::substitute(word);
+    word ^= Words::load(w + 4 * (i - key_words));
+    Words::store(w + 4 * i, word);
+    if (++place == key_words) place = 0;
   }
+  for (unsigned char* byte = w + 4 * words; byte != w + sizeof w; ++byte) *byte = 0;
 }
 
-constexpr void AesContext::KeyExpansion() {
-  ExpandKey([](std::uint32_t word) {
+// On every processor; the S-box as a table means loads that depend on the key.
+struct PlainWords {
+  static constexpr std::uint32_t load(const unsigned char* bytes) {
+    std::uint32_t word = 0;
+    for (int k = 0; k < 4; ++k) word |= static_cast<std::uint32_t>(bytes[k]) << 8 * k;
+    return word;
+  }
+  static constexpr void store(unsigned char* bytes, std::uint32_t word) {
+    for (int k = 0; k < 4; ++k) bytes[k] = static_cast<unsigned char>(word >> 8 * k);
+  }
+  static constexpr std::uint32_t substitute(std::uint32_t word) {
     std::uint32_t substituted = 0;
     for (int k = 0; k < 4; ++k) {
       substituted |= static_cast<std::uint32_t>(sbox[word >> 8 * k & 0xFF]) << 8 * k;
     }
     return substituted;
-  });
+  }
+};
+
+constexpr void AesContext::KeyExpansion() {
+  ExpandKey<PlainWords>();
 }
 
 }  // namespace zeph

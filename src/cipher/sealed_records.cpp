@@ -6,7 +6,6 @@
 #include <cstring>
 
 #include "cipher/aes.h"
-#include "cipher/wipe.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -59,17 +58,16 @@ std::uint32_t open(const unsigned char* record, unsigned char* text) {
   return length;
 }
 
-// Takes over the key; a size that is none changes nothing.
+// Takes over the key, straight into the object, so that no copy of it is left to be wiped; a size
+// that is none changes nothing.
 void reset_key(std::size_t size, const unsigned char* key) {
   if (size != 16 && size != 24 && size != 32) return;
-  AesContext fresh{};
-  fresh.Nb = 4;
-  fresh.Nk = static_cast<std::int32_t>(size / 4);
-  fresh.Nr = fresh.Nk + 6;
-  std::memcpy(fresh.key, key, size);
-  ExpandKey(fresh);
-  g_aes = fresh;
-  wipe(&fresh, sizeof fresh);
+  std::memset(g_aes.state, 0, sizeof g_aes.state);
+  g_aes.Nk = static_cast<std::int32_t>(size / 4);
+  g_aes.Nr = g_aes.Nk + 6;
+  std::memcpy(g_aes.key, key, size);
+  std::memset(g_aes.key + size, 0, sizeof g_aes.key - size);
+  ExpandKey(g_aes);
 }
 
 unsigned char* bytes(char* text) {
