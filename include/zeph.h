@@ -1074,10 +1074,9 @@ ZEPH_API std::string Zeph_ANSI_to_UTF8(const char* text);
 /// lie in the library's memory until the process ends; working copies of the key are wiped.
 ///
 /// Timing: where the library was built for x86 with AES instructions and the processor has them,
-/// the time of a call depends on the length of the text alone. Everywhere else, and in
-/// Zeph_Encrypt_Reset_Key() on all processors, bytes of the key and the text are looked up in
-/// tables of 256 bytes; nothing branches on them, but who shares the processor's cache may learn of
-/// them from the time that it takes.
+/// the time of a call depends on the length of the text or the key alone. Everywhere else bytes of
+/// the key and the text are looked up in tables of 256 bytes; nothing branches on them, but who
+/// shares the processor's cache may learn of them from the time that it takes.
 ///
 ///     unsigned char key[16] = {0x4B, 0x00, 0x91};  // zero bytes are bytes of the key
 ///     Orbane::Zeph_Encrypt_Reset_Key(16, key);
