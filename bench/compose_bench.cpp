@@ -41,7 +41,7 @@ auto on_start(Start start, Append append) {
 template <typename Value>
 Row& add_append_row(const char* operation, Start start, Value value) {
   return row("compose", operation, "to " + size_text(start.size), start.size)
-      .reason("strcat finds the end and copies by one service; Zeph takes three calls")
+      .reason("strcat finds the end and copies by one service; Zeph asks for both lengths")
       .outputs([start] { return std::string(start.text); })
       .zeph(on_start(start, [value](char* text) { Orbane::Zeph_Cat(text, value); }));
 }

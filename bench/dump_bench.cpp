@@ -171,7 +171,7 @@ void add_name_row(const char* text) {
   const char* const name = keep(Places()).text(text);
   static const std::regex standard("[Ss]([0-9]+)[Ff]([0-9]+)");
   auto& names = row("dump", "Zeph_Check_SxxFxx", text, std::strlen(name));
-  names.reason("a number may be hexadecimal and is copied, and the letters fold by the locale");
+  names.reason("a number may be hexadecimal, and the letters fold by the locale");
   names.zeph([name] {
     unsigned char stream = 0, function = 0;
     return Orbane::Zeph_Check_SxxFxx(name, &stream, &function) ? stream * 256 + function : -1;

@@ -91,7 +91,7 @@ auto stored(const std::vector<Text>& texts, Read read) {
 }
 
 const char* const slice_reason =
-    "the slice is copied and ends at a zero byte; std::from_chars reads it where it stands";
+    "a zero byte ends the slice, too, hexadecimal numbers are read, and errno is kept";
 
 void add_byte_rows(const Batch& batch, const std::string& input) {
   const auto& texts = batch.bytes;

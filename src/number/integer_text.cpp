@@ -29,19 +29,23 @@ constexpr auto hex_values = [] {
   return values;
 }();
 
-// Stores the value of a whole body: modulo 2^32, and an 8-bit value is the low byte of that.
-template <typename Value>
-inline bool store_whole(unsigned int word, bool negative, Value& value) {
+// What a text holds: the value, modulo 2^32, and whether all of it is a number. At a foreign byte
+// the value is that of the digits in front of it, without a sign. It travels in a register.
+struct Integer {
+  unsigned int word;
+  bool whole;
+};
+
+inline Integer whole_integer(unsigned int word, bool negative) {
   const unsigned int sign = negative;
-  value = static_cast<Value>((word ^ (0 - sign)) + sign);
-  return true;
+  return {(word ^ (0 - sign)) + sign, true};
 }
 
-// At a foreign byte the value holds the digits in front of it, without a sign.
+// Stores the value; an 8-bit one is its low byte.
 template <typename Value>
-inline bool store_part(unsigned int word, Value& value) {
-  value = static_cast<Value>(word);
-  return false;
+inline bool store(Integer integer, Value& value) {
+  value = static_cast<Value>(integer.word);
+  return integer.whole;
 }
 
 template <typename... End>
@@ -50,28 +54,27 @@ bool has_hex_prefix(const char* body, End... end) {
 }
 
 // The 8-bit grammar: decimal digits alone.
-bool read_small_integer(const char* text, char& value) {
+Integer read_small_integer(const char* text) {
   const bool negative = *text == '-';
   unsigned int word = 0;
   text = append_digits(text + negative, word);
-  return *text == '\0' ? store_whole(word, negative, value) : store_part(word, value);
+  return *text == '\0' ? whole_integer(word, negative) : Integer{word, false};
 }
 
 // Hexadecimal digits, or a foreign byte behind the decimal ones, whose number is `word`. It stays
 // out of the way of the decimal numbers. The text is not empty.
 template <typename... End>
-[[gnu::noinline]] bool read_other_integer(const char* text, unsigned int word, int& value,
-                                          End... end) {
+[[gnu::noinline]] Integer read_other_integer(const char* text, unsigned int word, End... end) {
   const bool negative = *text == '-';
   const char* body = text + negative;
-  if (!has_hex_prefix(body, end...)) return store_part(word, value);
+  if (!has_hex_prefix(body, end...)) return {word, false};
   word = 0;
   for (body += 2; byte_at(body, end...) != '\0'; ++body) {
     const unsigned int digit = hex_values[static_cast<unsigned char>(*body)];
-    if (digit == foreign) return store_part(word, value);
+    if (digit == foreign) return {word, false};
     word = word * 16 + digit;
   }
-  return store_whole(word, negative, value);
+  return whole_integer(word, negative);
 }
 
 // The last eight hexadecimal digits make the value, so they are looked for from the end on.
@@ -118,35 +121,34 @@ int any_leading_integer(const char* text) {
   return std::atoi(text);
 }
 
-inline bool read_integer(const char* text, int& value) {
+inline Integer read_integer(const char* text) {
   const bool negative = *text == '-';
   unsigned int word = 0;
   const char* const stop = append_digits(text + negative, word);
-  if (*stop != '\0') return read_other_integer(text, word, value);
-  return store_whole(word, negative, value);
+  if (*stop != '\0') return read_other_integer(text, word);
+  return whole_integer(word, negative);
 }
 
 // The same for a text that ends at `end`, or at a zero byte in front of it.
-inline bool read_integer(const char* text, const char* end, int& value) {
+inline Integer read_integer(const char* text, const char* end) {
   const bool negative = byte_at(text, end) == '-';
   std::uint64_t digits = 0;
   const char* const stop =
       append_digits(append_wide_digits(text + negative, digits, end), digits, end);
   const auto word = static_cast<unsigned int>(digits);
-  if (byte_at(stop, end) != '\0') return read_other_integer(text, word, value, end);
-  return store_whole(word, negative, value);
+  if (byte_at(stop, end) != '\0') return read_other_integer(text, word, end);
+  return whole_integer(word, negative);
 }
 
 inline int judge_integer(const char* text) {
-  int value;
-  if (!read_integer(text, value)) return 0;
+  if (!read_integer(text).whole) return 0;
   return *text == '-' ? 2 : 1;
 }
 
 bool read_bounded_slice(const char* text, int minimum, int maximum, int& value, int start,
                         int count) {
   return read_slice(text, start, count, [&](const char* begin, const char* end, char*) {
-    return read_integer(begin, end, value) && within_bounds(minimum, value, maximum);
+    return store(read_integer(begin, end), value) && within_bounds(minimum, value, maximum);
   });
 }
 
@@ -154,7 +156,7 @@ bool read_bounded_slice(const char* text, int minimum, int maximum, int& value, 
 
 bool read_integer_slice(const char* text, int start, int count, int& value) {
   return read_slice(text, start, count, [&](const char* begin, const char* end, char*) {
-    return read_integer(begin, end, value);
+    return store(read_integer(begin, end), value);
   });
 }
 
@@ -164,7 +166,7 @@ namespace Orbane {
 
 bool Zeph_Char_Num_Check(const char* text, char minimum, char maximum, char* value) {
   const auto number = [](char byte) { return static_cast<signed char>(byte); };
-  return zeph::read_small_integer(text, *value) &&
+  return zeph::store(zeph::read_small_integer(text), *value) &&
          zeph::within_bounds(number(minimum), number(*value), number(maximum));
 }
 
@@ -177,11 +179,11 @@ int Zeph_Int_Check(const std::string& text) {
 }
 
 bool Zeph_To_Int(const char* text, int* value) {
-  return zeph::read_integer(text, *value);
+  return zeph::store(zeph::read_integer(text), *value);
 }
 
 bool Zeph_To_Int(const std::string& text, int* value) {
-  return zeph::read_integer(text.c_str(), *value);
+  return zeph::store(zeph::read_integer(text.c_str()), *value);
 }
 
 bool Zeph_To_Int(const char* text, int* value, int start, int count) {
@@ -193,11 +195,13 @@ bool Zeph_To_Int(const std::string& text, int* value, int start, int count) {
 }
 
 bool Zeph_To_Int(const char* text, int minimum, int maximum, int* value) {
-  return zeph::read_integer(text, *value) && zeph::within_bounds(minimum, *value, maximum);
+  return zeph::store(zeph::read_integer(text), *value) &&
+         zeph::within_bounds(minimum, *value, maximum);
 }
 
 bool Zeph_To_Int(const std::string& text, int minimum, int maximum, int* value) {
-  return zeph::read_integer(text.c_str(), *value) && zeph::within_bounds(minimum, *value, maximum);
+  return zeph::store(zeph::read_integer(text.c_str()), *value) &&
+         zeph::within_bounds(minimum, *value, maximum);
 }
 
 bool Zeph_To_Int(const char* text, int minimum, int maximum, int* value, int start, int count) {
