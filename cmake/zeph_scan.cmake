@@ -30,7 +30,7 @@ check_cxx_source_compiles("
 
 if(NOT ZEPH_PORTABLE)
   if(ZEPH_FOUND_AVX2)
-    list(APPEND ZEPH_SCAN_SOURCES scan/ascii_fold_avx2.cpp scan/find_pair_avx2.cpp
+    list(APPEND ZEPH_SCAN_SOURCES scan/ascii_fold_avx2.cpp scan/copy_text_avx2.cpp scan/find_pair_avx2.cpp
       scan/hex_pairs_avx2.cpp scan/last_byte_avx2.cpp scan/remove_byte_avx2.cpp)
     list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_AVX2)
   endif()

@@ -61,7 +61,7 @@ inline void put_fields_singly(Sink fields, const char* text, std::size_t size) {
     if (size == limit) return fields.put_empty();
     text = skip_blanks(end);
   }
-  fields.put(text, text + strnlen(text, limit));
+  fields.put_rest(text);
 }
 
 // The core of Zeph_Seperate: one pass, which stops at the byte that fills a middle or the last

@@ -38,7 +38,7 @@ inline void split_fields_singly(const char* text, char delimiter, Sink fields) {
     if (*end == '\0') return fields.put_empty();
     text = end + 1;
   }
-  fields.put(text, text + strnlen(text, fields.limit()));
+  fields.put_rest(text);
 }
 
 // The same for more than three fields: a look pays if it may find several delimiters, and for as

@@ -9,6 +9,7 @@
 
 #include "frame/fixed_buffers.h"
 #include "frame/owned_buffers.h"
+#include "scan/copy_text.h"
 #include "scan/move_bytes.h"
 
 namespace zeph {
@@ -48,6 +49,10 @@ class FieldWriter {
   void put(const char* from, const char* end) {
     put_field(*next_++, from, end, limit_);
   }
+  // Writes what is left of the text as the last field.
+  void put_rest(const char* from) {
+    put(from, from + strnlen(from, limit_));
+  }
   // Makes all fields that are left the empty text.
   void put_empty() {
     while (next_ != end_) **next_++ = '\0';
@@ -59,11 +64,11 @@ class FieldWriter {
   std::size_t limit_;
 };
 
-// Notes where the fields of one split stand.
+// Notes where the fields of one split of a String stand.
 template <std::size_t count>
 class FieldPlaces {
  public:
-  explicit FieldPlaces(std::size_t limit) : limit_(limit) {}
+  FieldPlaces(std::size_t limit, const char* text_end) : limit_(limit), text_end_(text_end) {}
 
   std::size_t limit() const {
     return limit_;
@@ -74,17 +79,38 @@ class FieldPlaces {
   void put(const char* from, const char* end) {
     fields_[noted_++] = {from, std::min(static_cast<std::size_t>(end - from), limit_)};
   }
+  // A long rest is noted with all that may belong to it: a zero byte that ends it is looked for
+  // when it is copied.
+  void put_rest(const char* from) {
+    constexpr std::size_t long_rest = 256;
+    const std::size_t most = std::min(static_cast<std::size_t>(text_end_ - from), limit_);
+    has_long_rest_ = most > long_rest;
+    put(from, from + (has_long_rest_ ? most : strnlen(from, most)));
+  }
   void put_empty() {
     noted_ = count;
   }
   std::string_view operator[](std::size_t index) const {
     return fields_[index];
   }
+  // No output is the text.
+  void assign_to(std::size_t index, std::string& out) const {
+    const std::string_view field = fields_[index];
+    if (index + 1 < count || !has_long_rest_) {
+      out = field;
+    } else if (field.size() <= out.size()) {
+      out.erase(copy_text(&out[0], field.data(), field.size()));
+    } else {
+      out.assign(field.data(), strnlen(field.data(), field.size()));
+    }
+  }
 
  private:
   std::string_view fields_[count];
   std::size_t noted_ = 0;
   std::size_t limit_;
+  const char* text_end_;
+  bool has_long_rest_ = false;
 };
 
 // The String form of a splitter, which is split(text, sink). The interface promises a work buffer
@@ -96,14 +122,14 @@ void split_into_strings(const std::string& text, int limit, Split split, Strings
   const std::size_t room = field_limit(limit);
   const WorkBuffers<count> work(room + 1);
   if (!work.complete()) return;
-  FieldPlaces<count> fields(room);
+  FieldPlaces<count> fields(room, text.c_str() + text.size());
   split(text.c_str(), fields);
   std::size_t next = 0;
   if (((&outputs == &text) || ...)) {
     for (std::size_t i = 0; i < count; ++i) put_text(work[i], fields[i].data(), fields[i].size());
     ((outputs = work[next++]), ...);
   } else {
-    ((outputs = fields[next++]), ...);
+    (fields.assign_to(next++, outputs), ...);
   }
 }
 

@@ -12,6 +12,7 @@
 #include "scan/ascii_fold.h"
 #include "scan/ascii_run.h"
 #include "scan/byte_mask.h"
+#include "scan/copy_text.h"
 #include "scan/count_byte.h"
 #include "scan/find_byte.h"
 #include "scan/find_needle.h"
@@ -114,6 +115,24 @@ TEST(Kernels, RemoveByte) {
       const GuardedText in(text, End::bare);
       ASSERT_EQ(std::string(in.data(), remove(in.data(), size, 'a')), kept);
     }
+  });
+}
+
+// A text in as much room as it takes, its zero byte not counted.
+TEST(Kernels, CopyText) {
+  each_size([](Draw& draw, std::size_t size) {
+    std::string text = draw.text(0, "ab\xFF");
+    const std::size_t end = draw.below(2 * size + 1);
+    if (end < size) text[end] = '\0';
+    const std::string expected = text.substr(0, end);
+    const GuardedText in(text, End::bare);
+    const GuardedBuffer out(expected.size());
+    ASSERT_EQ(zeph::copy_text(out.data(), in.data(), size), expected.size());
+    ASSERT_EQ(std::string(out.data(), expected.size()), expected);
+#ifdef ZEPH_HAS_AVX2
+    if (!has_avx2) return;
+    ASSERT_EQ(zeph::copy_text_128_avx2(out.data(), in.data(), size), expected.size() / 128 * 128);
+#endif
   });
 }
 
