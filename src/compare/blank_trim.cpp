@@ -4,6 +4,7 @@
 #include "frame/string_pieces.h"
 #include "scan/move_bytes.h"
 #include "scan/other_byte.h"
+#include "scan/word.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -15,10 +16,6 @@ constexpr char blank = ' ';
 struct Kept {
   std::size_t begin, end;
 };
-
-Kept without_tail(const char* text, std::size_t size) {
-  return {0, size - run_at_back(text, size, blank)};
-}
 
 // A text of blanks has lost all of them at its head.
 Kept without_both(const char* text, std::size_t size, std::size_t begin) {
@@ -66,6 +63,22 @@ void keep_in_text(char* text, std::size_t size, Kept kept) {
   clear_bytes(text + left, size - left);
 }
 
+// By itself, so that a few blanks behind a word of text save no register.
+[[gnu::noinline]] void drop_any_tail(std::string& text) {
+  text.erase(text.size() - run_at_back(text.data(), text.size(), blank));
+}
+
+// A few blanks are counted in the last word at once: that takes as long for every number of them,
+// and nothing is loaded from a place that the number decides.
+void drop_tail(std::string& text) {
+  constexpr std::uint64_t blanks = 0x2020202020202020;
+  const std::size_t size = text.size();
+  if (size < word_size) return drop_any_tail(text);
+  const std::uint64_t others = load_word(text.data() + size - word_size) ^ blanks;
+  if (others == 0) return drop_any_tail(text);
+  text.erase(size - static_cast<std::size_t>(__builtin_clzll(others)) / 8);
+}
+
 void keep_in_string(std::string& text, Kept kept) {
   if (kept.begin == 0) {
     text.erase(kept.end);
@@ -81,11 +94,12 @@ namespace Orbane {
 
 void Zeph_Del_TailSpace(char* text) {
   const std::size_t size = std::strlen(text);
-  zeph::keep_in_text(text, size, zeph::without_tail(text, size));
+  const std::size_t run = zeph::run_at_back(text, size, zeph::blank);
+  if (run > 0) zeph::clear_bytes(text + size - run, run);
 }
 
 void Zeph_Del_TailSpace(std::string& text) {
-  zeph::keep_in_string(text, zeph::without_tail(text.data(), text.size()));
+  zeph::drop_tail(text);
 }
 
 void Zeph_Del_HeadSpace(char* text) {

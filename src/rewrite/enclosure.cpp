@@ -39,11 +39,12 @@ std::string_view stripped(std::string_view text, MarkedEnds ends) {
   return {text.data() + head, text.size() - head - ends.tail};
 }
 
+// A text without marks is to come through without a taken branch.
 void strip(std::string& text, MarkedEnds ends) {
-  if (ends.head) {
+  if (__builtin_expect(ends.head, 0)) {
     const std::string_view left = stripped(text, ends);
     put_string(text, left.data(), left.size());
-  } else if (ends.tail) {
+  } else if (__builtin_expect(ends.tail, 0)) {
     text.erase(text.size() - 1);
   }
 }
