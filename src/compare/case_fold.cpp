@@ -12,7 +12,8 @@ constexpr std::size_t worth_a_look = 12;
 
 // The locale of nearly every process, found out by its name alone.
 bool in_c_locale() {
-  return std::strcmp(fold_locale_name(), "C") == 0;
+  const char* const name = fold_locale_name();
+  return __builtin_expect(name[0] == 'C', 1) && __builtin_expect(name[1] == '\0', 1);
 }
 
 // `out` may be `from`, here and below.
@@ -29,23 +30,30 @@ bool in_c_locale() {
   for (std::size_t i = 0; i < size; ++i) out[i] = fold(from[i]);
 }
 
-void put_fold(bool c_locale, LetterCase to, char* out, const char* from, std::size_t size) {
-  if (!c_locale) return put_locale_fold(to, out, from, size);
+// In the "C" locale.
+void put_fold(LetterCase to, char* out, const char* from, std::size_t size) {
   // A text that has just been written is read in pieces as wide as those it was written in.
-  if (size > 64) return put_long_ascii_fold(to, out, from, size);
+  if (__builtin_expect(size > 64, 0)) return put_long_ascii_fold(to, out, from, size);
   put_ascii_fold_baseline(to, out, from, size);
+}
+
+[[gnu::noinline]] void fold_text_by_locale(LetterCase to, const char* source, char* target) {
+  const std::size_t size = std::strlen(source);
+  target[size] = '\0';
+  put_locale_fold(to, target, source, size);
 }
 
 // The locale first: what is known of the text then need not be kept over that call.
 void fold_text(LetterCase to, const char* source, char* target) {
-  const bool c_locale = in_c_locale();
+  if (!in_c_locale()) return fold_text_by_locale(to, source, target);
   const std::size_t size = std::strlen(source);
   target[size] = '\0';
-  put_fold(c_locale, to, target, source, size);
+  put_fold(to, target, source, size);
 }
 
 void fold_string(LetterCase to, std::string& text) {
-  put_fold(in_c_locale(), to, &text[0], text.data(), text.size());
+  if (!in_c_locale()) return put_locale_fold(to, &text[0], text.data(), text.size());
+  put_fold(to, &text[0], text.data(), text.size());
 }
 
 void fold_string(LetterCase to, const std::string& source, std::string& target) {
@@ -54,7 +62,8 @@ void fold_string(LetterCase to, const std::string& source, std::string& target) 
   } else {
     target.erase(source.size());
   }
-  put_fold(in_c_locale(), to, &target[0], source.data(), source.size());
+  if (!in_c_locale()) return put_locale_fold(to, &target[0], source.data(), source.size());
+  put_fold(to, &target[0], source.data(), source.size());
 }
 
 }  // namespace

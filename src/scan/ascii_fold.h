@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstring>
 
+#include "scan/byte_mask.h"
 #include "scan/wide.h"
 
 namespace zeph {
@@ -42,39 +43,43 @@ std::size_t ascii_alike_128_avx2(const char* a, const char* b, std::size_t size)
 
 #ifdef ZEPH_SCAN_SSE2
 
-inline void store_16(char* out, __m128i bytes) {
-  _mm_storeu_si128(reinterpret_cast<__m128i*>(out), bytes);
+// The first 4, 8 or 16 of the bytes.
+template <std::size_t size>
+inline void store_first(char* out, __m128i bytes) {
+  if constexpr (size == 16) {
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(out), bytes);
+  } else if constexpr (size == 8) {
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(out), bytes);
+  } else {
+    const int word = _mm_cvtsi128_si32(bytes);
+    std::memcpy(out, &word, size);
+  }
 }
 
-// Sizes from `half` to twice as many, which are 4 to 16. The two halves of a piece are both loaded
-// before one is stored, since `out` may be `from`.
+// Sizes from `half` to twice as many, which are 4 to 16. Both halves are loaded before one is
+// stored, since `out` may be `from`.
 template <std::size_t half>
-void put_short_ascii_fold(LetterCase to, char* out, const char* from, std::size_t size) {
-  __m128i head = _mm_setzero_si128(), tail = head;
-  std::memcpy(&head, from, half);
-  std::memcpy(&tail, from + size - half, half);
+inline void put_ascii_fold_of_ends(LetterCase to, char* out, const char* from, std::size_t size) {
   const char first = first_folded(to);
-  const __m128i folded = _mm_unpacklo_epi64(other_case_16(head, first), other_case_16(tail, first));
-  char both[16];
-  store_16(both, folded);
-  std::memcpy(out, both, half);
-  std::memcpy(out + size - half, both + 8, half);
+  const __m128i head = load_word<half>(from), tail = load_word<half>(from + size - half);
+  store_first<half>(out, other_case_16(head, first));
+  store_first<half>(out + size - half, other_case_16(tail, first));
 }
 
 // Sizes from 16 on.
 inline void put_ascii_fold_16(LetterCase to, char* out, const char* from, std::size_t size) {
   const char first = first_folded(to);
-  const __m128i tail = load_16(from + size - 16);
+  const __m128i tail = load_word<16>(from + size - 16);
   for (std::size_t i = 0; i + 16 < size; i += 16) {
-    store_16(out + i, other_case_16(load_16(from + i), first));
+    store_first<16>(out + i, other_case_16(load_word<16>(from + i), first));
   }
-  store_16(out + size - 16, other_case_16(tail, first));
+  store_first<16>(out + size - 16, other_case_16(tail, first));
 }
 
 inline void put_ascii_fold_baseline(LetterCase to, char* out, const char* from, std::size_t size) {
   if (size >= 16) return put_ascii_fold_16(to, out, from, size);
-  if (size >= 8) return put_short_ascii_fold<8>(to, out, from, size);
-  if (size >= 4) return put_short_ascii_fold<4>(to, out, from, size);
+  if (__builtin_expect(size >= 8, 1)) return put_ascii_fold_of_ends<8>(to, out, from, size);
+  if (size >= 4) return put_ascii_fold_of_ends<4>(to, out, from, size);
   put_ascii_fold_portable(to, out, from, size);
 }
 
