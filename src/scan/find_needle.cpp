@@ -127,14 +127,8 @@ std::size_t find_short_needle(View haystack, View needle) {
   return find_short_needle_baseline(haystack, needle);
 }
 
-}  // namespace
-
-// The runtime's search for one byte is the fastest there is: a rare first byte needs no more. In a
-// short text the call costs more than it finds.
-std::size_t find_needle(View haystack, View needle) {
-  if (needle.empty()) return 0;
-  if (needle.size() > haystack.size()) return View::npos;
-  if (haystack.size() <= mask_bytes) return find_short_needle(haystack, needle);
+// The runtime's search for one byte is the fastest there is: a rare first byte needs no more.
+[[gnu::noinline]] std::size_t find_long_way(View haystack, View needle) {
   const std::size_t count = haystack.size() - needle.size() + 1;
   const void* const first = std::memchr(haystack.data(), needle[0], count);
   if (!first) return View::npos;
@@ -142,6 +136,16 @@ std::size_t find_needle(View haystack, View needle) {
   const auto at = static_cast<std::size_t>(here - haystack.data());
   if (std::memcmp(here, needle.data(), needle.size()) == 0) return at;
   return find_filtered(haystack, needle, at + 1, ExactFold());
+}
+
+}  // namespace
+
+// In a short text the runtime's call costs more than it finds, and no register is saved for it.
+std::size_t find_needle(View haystack, View needle) {
+  if (needle.empty()) return 0;
+  if (needle.size() > haystack.size()) return View::npos;
+  if (haystack.size() <= mask_bytes) return find_short_needle(haystack, needle);
+  return find_long_way(haystack, needle);
 }
 
 std::size_t find_last_needle(View haystack, View needle) {

@@ -79,32 +79,35 @@ std::size_t common_bytes(const char* text, const char* pattern) {
   return i;
 }
 
-// The places from `from` + 1 on; at `from` the pattern does not stand. One look at what is near
-// tells, or the text goes on. Then the byte that told the first place apart may be a rare one: the
-// runtime's walk to it decides. The filter does what is left.
-std::size_t find_behind(const char* text, const char* from, View pattern) {
-  const char* const near = from + 1;
-  const std::size_t known = strnlen(near, mask_bytes);
-  const std::size_t found = find_needle(View(near, known), pattern);
-  if (found != View::npos) return static_cast<std::size_t>(near - text) + found;
-  if (known < mask_bytes) return View::npos;
+// The places behind those that the look below has seen. The byte that told the first place apart
+// may be a rare one: the runtime's walk to it decides. The filter does what is left.
+[[gnu::noinline]] int find_beyond(const char* text, const char* from, View pattern) {
   const std::size_t other = common_bytes(from, pattern.data());
-  from = near + known - std::min(known, pattern.size() - 1);
-  if (other <= known) {
+  from += 1 + mask_bytes - std::min(mask_bytes, pattern.size() - 1);
+  if (other <= mask_bytes) {
     from = find_byte_or_end(from + other, pattern[other]);
-    if (*from == '\0') return View::npos;
+    if (*from == '\0') return not_found;
     from -= other;
-    if (starts_with(from, pattern.data())) return static_cast<std::size_t>(from - text);
+    if (starts_with(from, pattern.data())) {
+      return to_position(static_cast<std::size_t>(from - text));
+    }
     ++from;
   }
   const std::size_t far = find_in_range(from, {0, View::npos}, pattern, CaseRule::exact);
-  return far == View::npos ? far : static_cast<std::size_t>(from - text) + far;
+  if (far == View::npos) return not_found;
+  return to_position(static_cast<std::size_t>(from - text) + far);
 }
 
-// The three ways of a search through a whole text stand apart, so that none saves registers for
-// another one.
-[[gnu::noinline]] int find_far(const char* text, const char* from, const char* pattern) {
-  return to_position(find_behind(text, from, pattern));
+// The places from `from` + 1 on; at `from` the pattern does not stand. One look at what is near
+// tells, or the text goes on. The ways of a search through a whole text stand apart, so that none
+// saves registers for another one.
+[[gnu::noinline]] int find_behind(const char* text, const char* from, const char* pattern) {
+  const View sought(pattern);
+  const char* const near = from + 1;
+  const std::size_t known = strnlen(near, mask_bytes);
+  const std::size_t found = find_needle(View(near, known), sought);
+  if (found != View::npos) return to_position(static_cast<std::size_t>(near - text) + found);
+  return known < mask_bytes ? not_found : find_beyond(text, from, sought);
 }
 
 // The first byte of most patterns is rare, and the runtime's walk to it needs no length: the first
@@ -112,7 +115,7 @@ std::size_t find_behind(const char* text, const char* from, View pattern) {
 [[gnu::noinline]] int find_exact(const char* text, const char* pattern) {
   const char* const from = find_byte_or_end(text, *pattern);
   if (*from == '\0') return not_found;
-  if (!starts_with(from, pattern)) return find_far(text, from, pattern);
+  if (!starts_with(from, pattern)) return find_behind(text, from, pattern);
   return to_position(static_cast<std::size_t>(from - text));
 }
 
