@@ -138,7 +138,9 @@ int find_position(const char* text, SearchSpan span, const char* pattern, CaseRu
   const int start = std::max(span.start, 0);
   if (span.end <= start || pattern[0] == '\0') return not_found;
   const Range range{static_cast<std::size_t>(start), static_cast<std::size_t>(span.end)};
-  return to_position(find_in_range(text, range, pattern, rule));
+  const std::string_view sought(pattern);
+  if (range.end - range.begin < sought.size()) return not_found;
+  return to_position(find_in_range(text, range, sought, rule));
 }
 
 }  // namespace zeph
