@@ -38,43 +38,40 @@ inline std::size_t cut_pairs(Occurrences& occurrences, const GapText& text) {
   return gap.done;
 }
 
-// The first pair of a byte text if it is near the first byte of that kind. NULL if there is none at
-// all; another place where no pair is in front of it.
-inline char* near_pair(char* text, char first, char second) {
-  constexpr int near = 16;
-  char* from = text;
-  if (*from != first) from += find_byte_or_end(text, first) - text;
-  for (int i = 0; i < near; ++i, ++from) {
-    if (*from == '\0') return nullptr;
-    if (from[0] == first && from[1] == second) break;
-  }
-  return from;
-}
-
-// The same in a byte text. The next bytes are gone through one by one: that needs no length, and no
-// search, which a short text would not repay.
-inline void cut_pairs_in_bytes(char* text, std::string_view pair) {
-  constexpr std::ptrdiff_t near = 64;
-  const char first = pair[0], second = pair[1];
-  char* from = near_pair(text, first, second);
-  if (!from) return;
-  char* top = from;
-  if (from[0] == first && from[1] == second) {
-    for (const char* const far = from + near; from < far;) {
-      if (from[0] == first && from[1] == second) {
-        for (from += 2; top != text && top[-1] == first && *from == second; ++from) --top;
-      } else if ((*top = *from++) == '\0') {
-        return;
-      } else {
-        ++top;
-      }
-    }
-  }
+// The rest of a byte text, where no pair is in front of the gap from `top` to `from`.
+[[gnu::noinline]] inline void cut_far_pairs(char* text, const char* top, const char* from,
+                                            const char* pair) {
   const auto done = static_cast<std::size_t>(top - text);
   const auto rest = static_cast<std::size_t>(from - text), size = rest + std::strlen(from);
-  Occurrences occurrences({text, size}, pair);
+  Occurrences occurrences({text, size}, {pair, 2});
   const std::size_t new_size = cut_pairs(occurrences, {text, done, rest, size});
   if (new_size != size) text[new_size] = '\0';
+}
+
+// From the first byte of the pair's first kind on. The next bytes are gone through one by one: that
+// needs no length, and no search, which a short text would not repay.
+[[gnu::noinline]] inline void cut_near_pairs(char* text, char* from, const char* pair) {
+  constexpr std::ptrdiff_t near = 64;
+  const char first = pair[0], second = pair[1];
+  for (const char* const begin = from; from[0] != first || from[1] != second; ++from) {
+    if (*from == '\0') return;
+    if (from - begin == near) return cut_far_pairs(text, from, from, pair);
+  }
+  char* top = from;
+  for (const char* const begin = from; from - begin < near;) {
+    for (from += 2; top != text && top[-1] == first && *from == second; ++from) --top;
+    for (; from - begin < near && (from[0] != first || from[1] != second); ++from, ++top) {
+      if ((*top = *from) == '\0') return;
+    }
+  }
+  cut_far_pairs(text, top, from, pair);
+}
+
+// The same in a byte text. Its ways stand apart, so that none saves registers for another.
+inline void cut_pairs_in_bytes(char* text, const char* pair) {
+  if (*text == pair[0]) return cut_near_pairs(text, text, pair);
+  char* const from = text + (find_byte_or_end(text, pair[0]) - text);
+  if (*from != '\0') cut_near_pairs(text, from, pair);
 }
 
 }  // namespace zeph

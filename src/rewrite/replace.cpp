@@ -206,11 +206,10 @@ std::size_t grow_again(Occurrences& occurrences, char* text, std::size_t size, V
   return size + places.count * (replacement.size() - pattern.size());
 }
 
-// A text without an occurrence is not written to, not even its terminator.
-void replace_in_bytes(char* text, const char* pattern, const char* replacement) {
+// A text without an occurrence is not written to, not even its terminator. The pattern is not
+// empty.
+[[gnu::noinline]] void replace_pattern(char* text, const char* pattern, const char* replacement) {
   const View from(pattern, short_length(pattern));
-  if (from.empty()) return;
-  if (from.size() == 2 && *replacement == '\0') return cut_pairs_in_bytes(text, from);
   const char* const first = *text == from[0] ? text : find_byte_or_end(text, from[0]);
   if (*first == '\0') return;
   const auto front = static_cast<std::size_t>(first - text);
@@ -222,6 +221,13 @@ void replace_in_bytes(char* text, const char* pattern, const char* replacement) 
   const std::size_t new_size =
       shorter ? shrink_again(occurrences, text, size, to) : grow_again(occurrences, text, size, to);
   if (new_size != size) text[new_size] = '\0';
+}
+
+void replace_in_bytes(char* text, const char* pattern, const char* replacement) {
+  if (*pattern == '\0') return;
+  const bool is_pair = pattern[1] != '\0' && pattern[2] == '\0';
+  if (is_pair && *replacement == '\0') return cut_pairs_in_bytes(text, pattern);
+  replace_pattern(text, pattern, replacement);
 }
 
 // Goes on behind the replacement, which is longer.
