@@ -22,16 +22,18 @@ using View = std::string_view;
 
 // Nothing is written in front of the first match, nor where there is none. From there on every byte
 // of a longer text is stored, changed or not: that way the loop is wide.
-void replace_bytes(char* text, std::size_t size, char find, char replacement) {
-  constexpr std::size_t short_text = 16;
-  if (size <= short_text) {
-    for (char* const end = text + size; text != end; ++text) {
-      if (*text == find) *text = replacement;
-    }
-    return;
-  }
+[[gnu::noinline]] void replace_many_bytes(char* text, std::size_t size, char find,
+                                          char replacement) {
   std::size_t i = View(text, size).find(find);
   for (; i < size; ++i) text[i] = text[i] == find ? replacement : text[i];
+}
+
+void replace_bytes(char* text, std::size_t size, char find, char replacement) {
+  constexpr std::size_t short_text = 16;
+  if (size > short_text) return replace_many_bytes(text, size, find, replacement);
+  for (char* const end = text + size; text != end; ++text) {
+    if (*text == find) *text = replacement;
+  }
 }
 
 // Goes on behind each replacement: the `size` bytes at `text + from` become bytes at `text`.
