@@ -76,9 +76,10 @@ inline void put_ascii_fold_16(LetterCase to, char* out, const char* from, std::s
   store_first<16>(out + size - 16, other_case_16(tail, first));
 }
 
+// In this order a size from 8 on takes no more than one jump.
 inline void put_ascii_fold_baseline(LetterCase to, char* out, const char* from, std::size_t size) {
-  if (size >= 16) return put_ascii_fold_16(to, out, from, size);
-  if (__builtin_expect(size >= 8, 1)) return put_ascii_fold_of_ends<8>(to, out, from, size);
+  if (size >= 8 && size < 16) return put_ascii_fold_of_ends<8>(to, out, from, size);
+  if (__builtin_expect(size >= 16, 1)) return put_ascii_fold_16(to, out, from, size);
   if (size >= 4) return put_ascii_fold_of_ends<4>(to, out, from, size);
   put_ascii_fold_portable(to, out, from, size);
 }
