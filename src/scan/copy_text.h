@@ -12,6 +12,7 @@ std::size_t copy_text(char* to, const char* from, std::size_t most);
 
 // Copies in steps of 128 bytes, as many of these as hold no zero byte. Returns how many bytes.
 std::size_t copy_text_128_avx2(char* to, const char* from, std::size_t most);
+std::size_t copy_text_128_avx512(char* to, const char* from, std::size_t most);
 
 }  // namespace zeph
 
