@@ -4,7 +4,7 @@
 
 #include "frame/locale_fold.h"
 #include "number/integer_text.h"
-#include "rewrite/short_length.h"
+#include "scan/short_length.h"
 #include "zeph.h"
 
 namespace zeph {

@@ -10,7 +10,7 @@
 #include "rewrite/cut_pairs.h"
 #include "rewrite/gap_text.h"
 #include "rewrite/occurrences.h"
-#include "rewrite/short_length.h"
+#include "scan/short_length.h"
 #include "scan/find_byte.h"
 #include "scan/remove_byte.h"
 #include "zeph.h"

@@ -9,6 +9,7 @@
 #include "scan/byte_mask.h"
 #include "scan/find_byte.h"
 #include "scan/find_needle.h"
+#include "scan/short_length.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -102,7 +103,7 @@ std::size_t common_bytes(const char* text, const char* pattern) {
 // tells, or the text goes on. The ways of a search through a whole text stand apart, so that none
 // saves registers for another one.
 [[gnu::noinline]] int find_behind(const char* text, const char* from, const char* pattern) {
-  const View sought(pattern);
+  const View sought(pattern, short_length(pattern));
   const char* const near = from + 1;
   const std::size_t known = strnlen(near, mask_bytes);
   const std::size_t found = find_needle(View(near, known), sought);
@@ -115,7 +116,7 @@ std::size_t common_bytes(const char* text, const char* pattern) {
 [[gnu::noinline]] int find_exact(const char* text, const char* pattern) {
   const char* const from = find_byte_or_end(text, *pattern);
   if (*from == '\0') return not_found;
-  if (!starts_with(from, pattern)) return find_behind(text, from, pattern);
+  if (!starts_with(from + 1, pattern + 1)) return find_behind(text, from, pattern);
   return to_position(static_cast<std::size_t>(from - text));
 }
 
@@ -138,7 +139,7 @@ int find_position(const char* text, SearchSpan span, const char* pattern, CaseRu
   const int start = std::max(span.start, 0);
   if (span.end <= start || pattern[0] == '\0') return not_found;
   const Range range{static_cast<std::size_t>(start), static_cast<std::size_t>(span.end)};
-  const std::string_view sought(pattern);
+  const View sought(pattern, short_length(pattern));
   if (range.end - range.begin < sought.size()) return not_found;
   return to_position(find_in_range(text, range, sought, rule));
 }

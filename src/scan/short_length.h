@@ -1,6 +1,6 @@
 // The length of a byte text that is mostly short.
-#ifndef ZEPH_REWRITE_SHORT_LENGTH_H
-#define ZEPH_REWRITE_SHORT_LENGTH_H
+#ifndef ZEPH_SCAN_SHORT_LENGTH_H
+#define ZEPH_SCAN_SHORT_LENGTH_H
 
 #include <cstddef>
 #include <cstring>
@@ -18,4 +18,4 @@ inline std::size_t short_length(const char* text) {
 
 }  // namespace zeph
 
-#endif  // ZEPH_REWRITE_SHORT_LENGTH_H
+#endif  // ZEPH_SCAN_SHORT_LENGTH_H
