@@ -27,10 +27,12 @@ void under_locale(int category, const char* name, const std::function<void()>& c
 
 template <typename Fold>
 std::string both_folded(Fold fold, std::string text) {
-  std::string bytes = text + '\0';
+  std::string bytes = text + '\0', copy;
   fold(bytes.data());
+  fold(text, copy);
   fold(text);
   EXPECT_EQ(text, bytes.c_str()) << "byte text and String";
+  EXPECT_EQ(text, copy) << "in place and not";
   return text;
 }
 
@@ -44,8 +46,8 @@ const struct Folds {
 
 void expect_folds(const Folds& folds) {
   const std::string text = "I\xDD[\xC7|i\xFD{\xE7", padding(100, '-');
-  const auto lower = [](auto&& each) { Zeph_Lower(each); };
-  const auto upper = [](auto&& each) { Zeph_Upper(each); };
+  const auto lower = [](auto&&... texts) { Zeph_Lower(texts...); };
+  const auto upper = [](auto&&... texts) { Zeph_Upper(texts...); };
   EXPECT_EQ(both_folded(lower, text), folds.lower);
   EXPECT_EQ(both_folded(upper, text), folds.upper);
   EXPECT_EQ(both_folded(lower, padding + text), padding + folds.lower) << "the wide path";

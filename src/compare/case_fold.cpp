@@ -12,8 +12,7 @@ constexpr std::size_t worth_a_look = 12;
 
 // The locale of nearly every process, found out by its name alone.
 bool in_c_locale() {
-  const char* const name = fold_locale_name();
-  return __builtin_expect(name[0] == 'C', 1) && __builtin_expect(name[1] == '\0', 1);
+  return __builtin_expect(std::strcmp(fold_locale_name(), "C") == 0, 1);
 }
 
 // `out` may be `from`, here and below.

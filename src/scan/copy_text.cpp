@@ -11,24 +11,14 @@ namespace zeph {
 
 #ifdef ZEPH_SCAN_SSE2
 
-namespace {
-
-// In the widest steps that the processor has.
-std::size_t copy_text_128([[maybe_unused]] char* to, [[maybe_unused]] const char* from,
-                          [[maybe_unused]] std::size_t most) {
+std::size_t copy_text(char* to, const char* from, std::size_t most) {
+  std::size_t size = 0;
 #ifdef ZEPH_HAS_AVX512
-  if (has_avx512()) return copy_text_128_avx512(to, from, most);
+  if (has_avx512()) size = copy_text_128_avx512(to, from, most);
 #endif
 #ifdef ZEPH_HAS_AVX2
-  if (has_avx2()) return copy_text_128_avx2(to, from, most);
+  if (has_avx2()) size += copy_text_128_avx2(to + size, from + size, most - size);
 #endif
-  return 0;
-}
-
-}  // namespace
-
-std::size_t copy_text(char* to, const char* from, std::size_t most) {
-  std::size_t size = copy_text_128(to, from, most);
   for (;;) {
     const std::size_t step = std::min(most - size, mask_bytes);
     const std::uint64_t zeros = byte_mask(from + size, step, '\0');
