@@ -69,6 +69,37 @@ std::size_t common_front(const char* a, const char* b, std::size_t size, Fold fo
   return i;
 }
 
+#ifdef ZEPH_SCAN_SSE2
+
+// Whether up to 64 bytes are all equal: for sizes from `half` to twice as many the first and the
+// last `half`, so that a few bytes take no loop.
+template <std::size_t half, typename Fold>
+bool ends_equal(const char* a, const char* b, std::size_t size, Fold) {
+  const std::size_t tail = size - half;
+  const auto equal = [=](std::size_t at) {
+    return _mm_cmpeq_epi8(Fold::wide(load_word<half>(a + at)), Fold::wide(load_word<half>(b + at)));
+  };
+  return bits_of(_mm_and_si128(equal(0), equal(tail))) == 0xFFFF;
+}
+
+template <typename Fold>
+bool all_equal(const char* a, const char* b, std::size_t size, Fold fold) {
+  if (size >= 16) return common_front(a, b, size, fold) == size;
+  if (size >= 8) return ends_equal<8>(a, b, size, fold);
+  if (size >= 4) return ends_equal<4>(a, b, size, fold);
+  if (size >= 2) return ends_equal<2>(a, b, size, fold);
+  return size == 0 || fold(*a) == fold(*b);
+}
+
+#else
+
+template <typename Fold>
+bool all_equal(const char* a, const char* b, std::size_t size, Fold fold) {
+  return common_front(a, b, size, fold) == size;
+}
+
+#endif
+
 // The cost of false places, in bytes compared: a place alone costs about as much as 128 of them,
 // and 64 for each byte passed are what the two-way algorithm would have cost there.
 class Budget {
@@ -103,18 +134,31 @@ std::size_t find_filtered(View haystack, View needle, std::size_t from, Fold fol
   }
 }
 
-}  // namespace
+// The places among up to 64 that meet a probe.
+inline std::uint64_t places_of(const char* text, std::size_t count, Probe probe) {
+  const char* const from = text + probe.offset;
+  const std::uint64_t places = byte_mask(from, count, probe.byte);
+  if (probe.loose == 0) return places;
+  return places | byte_mask(from, count, static_cast<char>(probe.byte ^ probe.loose));
+}
 
 // All places where the two ends meet at once, of which there are at most 64.
-std::size_t find_short_needle_baseline(View haystack, View needle) {
+template <typename Fold>
+inline std::size_t find_in_mask(View haystack, View needle, Fold fold) {
   const std::size_t count = haystack.size() - needle.size() + 1, last = needle.size() - 1;
-  std::uint64_t places = byte_mask(haystack.data(), count, needle[0]);
-  if (places != 0) places &= byte_mask(haystack.data() + last, count, needle[last]);
+  std::uint64_t places = places_of(haystack.data(), count, Fold::probe(needle, 0));
+  if (places != 0) places &= places_of(haystack.data(), count, Fold::probe(needle, last));
   for (; places != 0; places &= places - 1) {
     const std::size_t at = lowest_place(places);
-    if (common_front(haystack.data() + at, needle.data(), last, ExactFold()) == last) return at;
+    if (all_equal(haystack.data() + at, needle.data(), last, fold)) return at;
   }
   return View::npos;
+}
+
+}  // namespace
+
+std::size_t find_short_needle_baseline(View haystack, View needle) {
+  return find_in_mask(haystack, needle, ExactFold());
 }
 
 namespace {
@@ -170,6 +214,7 @@ std::size_t find_last_needle(View haystack, View needle) {
 std::size_t find_needle_ignoring_case(View haystack, View needle) {
   if (needle.empty()) return 0;
   if (needle.size() > haystack.size()) return View::npos;
+  if (haystack.size() <= mask_bytes) return find_in_mask(haystack, needle, AsciiFold());
   return find_filtered(haystack, needle, 0, AsciiFold());
 }
 
