@@ -175,8 +175,8 @@ ZEPH_API char* Zeph_Set_Mem(char* block, int value, unsigned int count);
 ///
 /// The String forms take the objects as byte texts: each ends at its first zero byte, and what
 /// stands behind has no part in the result. They change neither object, in spite of the
-/// non-constant references. Nothing is read behind the first difference, or behind the first `n`
-/// bytes where a number bounds them.
+/// non-constant references. Of byte texts nothing is read behind the first difference, and of any
+/// text nothing behind the first `n` bytes where a number bounds them.
 ///
 ///     Orbane::Zeph_Compare("abcX", "abcY", 3);   // true: equal in the first three bytes
 ///     Orbane::Zeph_Compare_L("Ready", "READY");  // true
@@ -624,7 +624,8 @@ ZEPH_API void Zeph_Join(const std::vector<std::string>& list, char delimiter, st
 /// *Slices*: `start` and `count` select the bytes from index `start` to `start + count - 1`. Both
 /// are not negative and lie within the text; neither is tested against it. A pair of numbers in
 /// front of the output is always minimum and maximum, a pair behind it always start and count. The
-/// slice is copied, so that a zero byte among its bytes ends it early.
+/// slice is read as a text of its own: what stands behind it has no part, and a zero byte among its
+/// bytes ends it early.
 ///
 /// A String is read up to its first zero byte. Outputs are not NULL. Overflow is never reported.
 ///
@@ -668,8 +669,8 @@ ZEPH_API int Zeph_Int_Check(const std::string& text);
 /// digits in front of it, without a sign ("-12a" leaves 12, "+5" leaves 0); a value outside the
 /// bounds gives false and stays.
 ///
-/// The slice forms copy the slice into a work buffer. If the heap refuses it, or `count` is
-/// negative, they report "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem", return false and leave
+/// The slice forms ask for a work buffer of `count + 1` bytes. If the heap refuses it, or `count`
+/// is negative, they report "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem", return false and leave
 /// `*value` as it was.
 ///@{
 ZEPH_API bool Zeph_To_Int(const char* text, int* value);
@@ -734,8 +735,8 @@ ZEPH_API int Zeph_Double_Check(const std::string& text);
 /// point the value is the nearest double, ties to the even one; too large a value is infinite.
 /// Returns true if the value passes the bounds; outside of them it is stored all the same.
 ///
-/// The slice forms copy the slice into a work buffer. If the heap refuses it, or `count` is
-/// negative, they report "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem", return false and leave
+/// The slice forms ask for a work buffer of `count + 1` bytes. If the heap refuses it, or `count`
+/// is negative, they report "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem", return false and leave
 /// `*value` as it was.
 ///@{
 ZEPH_API bool Zeph_To_Double(const char* text, double* value);

@@ -34,6 +34,7 @@ class AesContext {
   template <typename Words>
   [[gnu::always_inline]] constexpr void ExpandKey();
 
+  // The same by plain loads, on every processor.
   constexpr void KeyExpansion();
 };
 
@@ -59,7 +60,7 @@ inline void DecryptBlock(const unsigned char* in, unsigned char* out) {
 template <typename Words>
 constexpr void AesContext::ExpandKey() {
   const int key_words = Nk, words = 4 * Nr + 4;
-  // All of the key, whatever counts of it: what does not is made anew.
+  // All 32 bytes; for a shorter key the words behind it are made below.
   for (std::size_t i = 0; i < sizeof key; i += 4) Words::store(w + i, Words::load(key + i));
   std::uint32_t word = Words::load(key + 4 * (key_words - 1));
   int place = 0, turn = 1;  // of the word among Nk of them, and the number of these

@@ -106,7 +106,7 @@ template <typename Direction>
 }
 
 // Key words by the processor's own means.
-struct Words {
+struct X86Words {
   static std::uint32_t load(const unsigned char* bytes) {
     std::uint32_t word;
     std::memcpy(&word, bytes, sizeof word);
@@ -128,7 +128,7 @@ struct Words {
 }  // namespace
 
 [[gnu::target("aes")]] void expand_key_x86(AesContext& context) {
-  context.ExpandKey<Words>();
+  context.ExpandKey<X86Words>();
 }
 
 void encrypt_blocks_x86(const unsigned char* in, unsigned char* out, std::size_t count) {

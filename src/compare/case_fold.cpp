@@ -29,8 +29,7 @@ bool in_c_locale() {
   for (std::size_t i = 0; i < size; ++i) out[i] = fold(from[i]);
 }
 
-// In the "C" locale.
-void put_fold(LetterCase to, char* out, const char* from, std::size_t size) {
+void put_c_locale_fold(LetterCase to, char* out, const char* from, std::size_t size) {
   // A text that has just been written is read in pieces as wide as those it was written in.
   if (__builtin_expect(size > 64, 0)) return put_long_ascii_fold(to, out, from, size);
   put_ascii_fold_baseline(to, out, from, size);
@@ -47,12 +46,12 @@ void fold_text(LetterCase to, const char* source, char* target) {
   if (!in_c_locale()) return fold_text_by_locale(to, source, target);
   const std::size_t size = std::strlen(source);
   target[size] = '\0';
-  put_fold(to, target, source, size);
+  put_c_locale_fold(to, target, source, size);
 }
 
 void fold_string(LetterCase to, std::string& text) {
   if (!in_c_locale()) return put_locale_fold(to, &text[0], text.data(), text.size());
-  put_fold(to, &text[0], text.data(), text.size());
+  put_c_locale_fold(to, &text[0], text.data(), text.size());
 }
 
 void fold_string(LetterCase to, const std::string& source, std::string& target) {
@@ -62,7 +61,7 @@ void fold_string(LetterCase to, const std::string& source, std::string& target) 
     target.erase(source.size());
   }
   if (!in_c_locale()) return put_locale_fold(to, &target[0], source.data(), source.size());
-  put_fold(to, &target[0], source.data(), source.size());
+  put_c_locale_fold(to, &target[0], source.data(), source.size());
 }
 
 }  // namespace

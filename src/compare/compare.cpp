@@ -49,7 +49,8 @@ bool equal_folded_prefix(const char* a, const char* b, std::size_t limit) {
   return strncasecmp(a, b, limit) == 0;
 }
 
-// Strings that are long, of two sizes, or perhaps equal up to a zero byte.
+// Strings that are long, of two sizes, or short ones that are known to differ: these hold the same
+// text only if a zero byte ends both before they do.
 template <typename EqualTexts>
 [[gnu::noinline]] bool equal_far(const std::string& a, const std::string& b, std::size_t size_a,
                                  std::size_t size_b, EqualTexts equal_texts) {
@@ -78,7 +79,7 @@ bool equal(const std::string& a, const std::string& b) {
 }
 
 bool equal_prefix(const std::string& a, const std::string& b, std::size_t limit) {
-  if (first_bytes_differ(a.c_str(), b.c_str())) return limit == 0;
+  if (__builtin_expect(limit != 0, 1) && first_bytes_differ(a.c_str(), b.c_str())) return false;
   const auto equal_texts = [limit](const char* x, const char* y) {
     return std::strncmp(x, y, limit) == 0;
   };

@@ -90,10 +90,11 @@ class FieldPlaces {
   void put_empty() {
     noted_ = count;
   }
+  // A long rest is not cut: it may go on behind a zero byte.
   std::string_view operator[](std::size_t index) const {
     return fields_[index];
   }
-  // No output is the text.
+  // Only for outputs that are not the text.
   void assign_to(std::size_t index, std::string& out) const {
     const std::string_view field = fields_[index];
     if (index + 1 < count || !has_long_rest_) {
@@ -126,6 +127,7 @@ void split_into_strings(const std::string& text, int limit, Split split, Strings
   split(text.c_str(), fields);
   std::size_t next = 0;
   if (((&outputs == &text) || ...)) {
+    // As byte texts the buffers cut a long rest, too.
     for (std::size_t i = 0; i < count; ++i) put_text(work[i], fields[i].data(), fields[i].size());
     ((outputs = work[next++]), ...);
   } else {

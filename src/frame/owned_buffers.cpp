@@ -22,13 +22,17 @@ void report_refused_work_buffer() {
   Diag_Banner("[Zeph] Memory calloc Fail in Zeph_Prepare_Mem");
 }
 
+namespace {
+
 // Most blocks are there and large enough. All else stays out of their way.
-[[gnu::noinline]] static bool replace_block(char*& block, std::size_t size) {
-  if (block) release_block(block);
+[[gnu::noinline]] bool replace_block(char*& block, std::size_t size) {
+  release_block(block);
   block = request_block(size);
   if (!block) report_refused_work_buffer();
   return block != nullptr;
 }
+
+}  // namespace
 
 bool prepare_block(char*& block, std::size_t size) {
   if (__builtin_expect(!block, 0)) return replace_block(block, size);
@@ -126,7 +130,8 @@ void Zeph_Release_Mem(char** buffer) {
 
 char* Zeph_Set_Mem(char* block, int value, unsigned int count) {
   if (count == 0) return block;
-  if (__builtin_expect(count > 64, 0)) return static_cast<char*>(std::memset(block, value, count));
+  if (__builtin_expect(count > zeph::most_filled_bytes, 0))
+    return static_cast<char*>(std::memset(block, value, count));
   zeph::fill_short(block, value, count);
   return block;
 }

@@ -9,25 +9,17 @@
 
 namespace zeph {
 
-// Asks the heap for `size` zero bytes, once for each block. One that it refuses is NULL. errno is
-// left alone; it is all of the error state that a heap touches, on any system.
+// Asks the heap for `size` zero bytes; NULL if it refuses. errno is left alone; it is all of the
+// error state that a heap touches, on any system.
 //
 // The empty statement counts as a use of the block: a request whose block is only freed again,
 // which the interface promises all the same, is one that a compiler may leave out otherwise.
-template <std::size_t count>
-inline std::array<char*, count> request_blocks(std::size_t size) {
-  const int before = errno;
-  std::array<char*, count> blocks;
-  for (char*& block : blocks) {
-    block = static_cast<char*>(std::calloc(size, 1));
-    __asm__ volatile("" : "+r"(block));
-  }
-  errno = before;
-  return blocks;
-}
-
 inline char* request_block(std::size_t size) {
-  return request_blocks<1>(size)[0];
+  const int before = errno;
+  char* block = static_cast<char*>(std::calloc(size, 1));
+  __asm__ volatile("" : "+r"(block));
+  errno = before;
+  return block;
 }
 
 // Frees the block and sets the pointer to NULL.
@@ -45,8 +37,9 @@ bool prepare_block(char*& block, std::size_t size);
 template <std::size_t count>
 class WorkBuffers {
  public:
-  explicit WorkBuffers(std::size_t size) : blocks_(request_blocks<count>(size)) {
-    for (const char* block : blocks_) {
+  explicit WorkBuffers(std::size_t size) {
+    for (char*& block : blocks_) {
+      block = request_block(size);
       if (!block) report_refused_work_buffer();
     }
   }
@@ -67,7 +60,7 @@ class WorkBuffers {
   }
 
  private:
-  const std::array<char*, count> blocks_;
+  std::array<char*, count> blocks_;
 };
 
 }  // namespace zeph

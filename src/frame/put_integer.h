@@ -1,4 +1,5 @@
-// Integers as decimal digits, eight of them by a few multiplications and none by a loop.
+// Integers as decimal digits, eight of them by a few multiplications and none by a loop. All that
+// write return the place of the terminator.
 #ifndef ZEPH_FRAME_PUT_INTEGER_H
 #define ZEPH_FRAME_PUT_INTEGER_H
 
@@ -13,7 +14,8 @@ namespace zeph {
 constexpr std::size_t longest_integer = sizeof "-2147483648";
 
 // What the eight digits of a number below 10^8 are worth, the first one in the lowest byte: its
-// halves, their hundreds and rests, and the tens and rests of these.
+// halves, their hundreds and rests, and the tens and rests of these. x * 10486 >> 20 is x / 100
+// below 10^4, x * 103 >> 10 is x / 10 below 100.
 constexpr std::uint64_t split_digits(std::uint32_t number) {
   std::uint64_t parts = number / 10000 | std::uint64_t{number % 10000} << 32;
   const std::uint64_t hundreds = (parts * 10486 >> 20) & 0x0000007F0000007F;
@@ -26,26 +28,26 @@ static_assert(split_digits(99990099) == 0x0909000009090909);
 
 constexpr std::uint64_t digit_zeros = 0x3030303030303030;
 
-// Writes a number below 10^8 without zeros in front, and a terminator. Returns its place, as all
-// functions here do.
+// Writes a number below 10^8 without zeros in front, and a terminator: as the digits move down in
+// the word, a zero byte comes in behind them.
 inline char* put_up_to_eight_digits(char* out, std::uint32_t number) {
   if (number < 10) {
     store_low_bytes<2>(out, '0' + number);
     return out + 1;
   }
   const std::uint64_t digits = split_digits(number);
-  const int zeros = __builtin_ctzll(digits) / 8;
-  const std::uint64_t text = (digits | digit_zeros) >> 8 * zeros;
-  char* const end = out + 8 - zeros;
-  if (zeros == 0) {
+  const int size = 8 - __builtin_ctzll(digits) / 8;
+  const std::uint64_t text = (digits | digit_zeros) >> 8 * (8 - size);
+  char* const end = out + size;
+  if (size == 8) {
     store_word(out, text);
     *end = '\0';
-  } else if (zeros < 5) {
+  } else if (size > 3) {
     store_low_bytes<4>(out, text);
-    store_low_bytes<4>(end - 3, text >> 8 * (5 - zeros));
+    store_low_bytes<4>(end - 3, text >> 8 * (size - 3));
   } else {
     store_low_bytes<2>(out, text);
-    store_low_bytes<2>(end - 1, text >> 8 * (7 - zeros));
+    store_low_bytes<2>(end - 1, text >> 8 * (size - 1));
   }
   return end;
 }

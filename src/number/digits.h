@@ -19,7 +19,8 @@ constexpr unsigned int digit_of(char byte) {
 // So many digits never leave 64 bits.
 constexpr std::ptrdiff_t most_word_digits = std::numeric_limits<std::uint64_t>::digits10;
 
-// The byte at a place of a text: a zero byte at the end that is passed, if one is.
+// *place, or a zero byte where the place is the end that is passed. Without one the text has a zero
+// byte of its own.
 template <typename... End>
 inline char byte_at(const char* place, End... end) {
   return ((place == end) || ...) ? '\0' : *place;
@@ -41,8 +42,8 @@ inline const char* append_digits(const char* text, std::uint64_t& word, const ch
   return text;
 }
 
-// The same for long numbers. Four digits take one step, as the chain of multiplications is what
-// they wait for.
+// The same for long numbers in a byte text. Four digits take one step, as the chain of
+// multiplications is what they wait for.
 inline const char* append_many_digits(const char* text, std::uint64_t& word) {
   for (;; text += 4) {
     const unsigned int a = digit_of(text[0]);
@@ -66,20 +67,25 @@ inline const char* append_many_digits(const char* text, std::uint64_t& word) {
   }
 }
 
-// Appends as many of the digits as whole wide steps take, of up to 24 in a text whose end is known.
-inline const char* append_wide_digits(const char* text, std::uint64_t& word, const char* end) {
+// Appends up to 24 digits in steps of 16 and 8, and leaves the others to the caller.
+inline const char* append_wide_digits(const char* text, std::uint64_t& word, const char* text_end) {
   std::uint64_t number;
-  if (end - text >= 8) {
-    if (end - text >= 16 && read_sixteen_digits(text, number)) {
-      word = word * 10000000000000000 + number;
-      text += 16;
-    }
-    if (end - text >= 8 && read_eight_digits(text, number)) {
-      word = word * 100000000 + number;
-      text += 8;
-    }
+  if (text_end - text >= 16 && read_sixteen_digits(text, number)) {
+    word = word * 10000000000000000 + number;
+    text += 16;
+  }
+  if (text_end - text >= 8 && read_eight_digits(text, number)) {
+    word = word * 100000000 + number;
+    text += 8;
   }
   return text;
+}
+
+// All digits of a text that may go on behind its end, many of them at a step. A short text takes
+// one test, not two.
+inline const char* append_all_digits(const char* text, std::uint64_t& word, const char* text_end) {
+  if (text_end - text >= 8) text = append_wide_digits(text, word, text_end);
+  return append_digits(text, word, text_end);
 }
 
 // The white space of the process's locale, which the runtime's atoi and atof skip.

@@ -93,11 +93,11 @@ int last_hex_digits(const char* begin, const char* end) {
 
 // What the runtime's atoi reads in most slices: declines where white space or a '+' comes first, no
 // digit, or more than an int.
-inline bool leading_integer(const char* text, const char* end, int& value) {
+inline bool try_leading_integer(const char* text, const char* end, int& value) {
   const bool negative = byte_at(text, end) == '-';
   const char* const begin = text + negative;
   std::uint64_t word = 0;
-  const char* const stop = append_digits(append_wide_digits(begin, word, end), word, end);
+  const char* const stop = append_all_digits(begin, word, end);
   if (stop == begin || stop - begin > most_word_digits || word > std::numeric_limits<int>::max()) {
     return false;
   }
@@ -107,7 +107,7 @@ inline bool leading_integer(const char* text, const char* end, int& value) {
 }
 
 // The same for any byte text. The runtime is asked itself where the number may be beyond an int.
-int any_leading_integer(const char* text) {
+int leading_integer(const char* text) {
   const char* digits = skip_white_space(text);
   const bool negative = *digits == '-';
   if (negative || *digits == '+') ++digits;
@@ -133,8 +133,7 @@ inline Integer read_integer(const char* text) {
 inline Integer read_integer(const char* text, const char* end) {
   const bool negative = byte_at(text, end) == '-';
   std::uint64_t digits = 0;
-  const char* const stop =
-      append_digits(append_wide_digits(text + negative, digits, end), digits, end);
+  const char* const stop = append_all_digits(text + negative, digits, end);
   const auto word = static_cast<unsigned int>(digits);
   if (byte_at(stop, end) != '\0') return read_other_integer(text, word, end);
   return whole_integer(word, negative);
@@ -145,8 +144,8 @@ inline int judge_integer(const char* text) {
   return *text == '-' ? 2 : 1;
 }
 
-bool read_bounded_slice(const char* text, int minimum, int maximum, int& value, int start,
-                        int count) {
+bool read_slice_within_bounds(const char* text, int minimum, int maximum, int& value, int start,
+                              int count) {
   return read_slice(text, start, count, [&](const char* begin, const char* end, char*) {
     return store(read_integer(begin, end), value) && within_bounds(minimum, value, maximum);
   });
@@ -205,21 +204,21 @@ bool Zeph_To_Int(const std::string& text, int minimum, int maximum, int* value) 
 }
 
 bool Zeph_To_Int(const char* text, int minimum, int maximum, int* value, int start, int count) {
-  return zeph::read_bounded_slice(text, minimum, maximum, *value, start, count);
+  return zeph::read_slice_within_bounds(text, minimum, maximum, *value, start, count);
 }
 
 bool Zeph_To_Int(const std::string& text, int minimum, int maximum, int* value, int start,
                  int count) {
-  return zeph::read_bounded_slice(text.c_str(), minimum, maximum, *value, start, count);
+  return zeph::read_slice_within_bounds(text.c_str(), minimum, maximum, *value, start, count);
 }
 
 int Zeph_Ext_Int_From_Str(const char* text, int start, int count) {
   return zeph::convert_short_slice(text, start, count, "[Zeph] Ext_Int_From_Str Size Error",
-                                   zeph::leading_integer, zeph::any_leading_integer);
+                                   zeph::try_leading_integer, zeph::leading_integer);
 }
 
 int Zeph_Ext_Int_From_Str(const char* text, int start, int count, char* buffer) {
-  return zeph::convert_slice(text, start, count, buffer, zeph::any_leading_integer);
+  return zeph::convert_slice(text, start, count, buffer, zeph::leading_integer);
 }
 
 int Zeph_HexStr_to_DecInt(const char* text) {

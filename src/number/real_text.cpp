@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 
 #include "frame/decimal_point.h"
 #include "frame/formatted_text.h"
@@ -43,44 +44,44 @@ int judge_real(const char* text) {
   return minuses == 1 ? 2 : 1;
 }
 
-// A slice of a text that may go on behind it. It becomes a byte text in a work buffer, but only for
-// those who need one.
+// What the readers ask of a text. A byte text ends at its zero byte.
+struct ByteText {
+  const char* begin;
+
+  char at(const char* place) const {
+    return *place;
+  }
+  const char* digits_end(const char* place, std::uint64_t& word) const {
+    return append_digits(place, word);
+  }
+  const char* exponent_end(const char* place, std::int64_t& exponent) const {
+    return add_exponent(place, exponent);
+  }
+};
+
+// A slice may go on behind its end, and may have a zero byte in front of it. It becomes a byte text
+// in its work buffer, but only for those who need one.
 struct Slice {
   const char* begin;
   const char* end;
   char* work;
-};
 
-// What the readers ask of a text: of a byte text, whose end a zero byte tells, and of a slice,
-// which may have a zero byte in front of its end.
-inline const char* begin_of(const char* text) {
-  return text;
-}
-inline const char* begin_of(const Slice* slice) {
-  return slice->begin;
-}
-inline char byte_in(const char*, const char* place) {
-  return *place;
-}
-inline char byte_in(const Slice* slice, const char* place) {
-  return byte_at(place, slice->end);
-}
-inline const char* digits_end(const char*, const char* place, std::uint64_t& word) {
-  return append_digits(place, word);
-}
-inline const char* digits_end(const Slice* slice, const char* place, std::uint64_t& word) {
-  return append_digits(place, word, slice->end);
-}
-inline const char* exponent_end(const char*, const char* place, std::int64_t& exponent) {
-  return add_exponent(place, exponent);
-}
-inline const char* exponent_end(const Slice*, const char* place, std::int64_t&) {
-  return place;  // left to those who read a byte text
-}
-inline const char* byte_text(const Slice* slice) {
-  put_text(slice->work, slice->begin, static_cast<std::size_t>(slice->end - slice->begin));
-  return slice->work;
-}
+  char at(const char* place) const {
+    return byte_at(place, end);
+  }
+  const char* digits_end(const char* place, std::uint64_t& word) const {
+    return append_digits(place, word, end);
+  }
+  // None: its letter is no end, so that a number with an exponent is left to those who read byte
+  // texts.
+  const char* exponent_end(const char* place, std::int64_t&) const {
+    return place;
+  }
+  ByteText copied() const {
+    put_text(work, begin, static_cast<std::size_t>(end - begin));
+    return {work};
+  }
+};
 
 // What the runtime's scan reads in a locale with another decimal point. It stays out of the way of
 // the others, who need no room on the stack.
@@ -93,33 +94,33 @@ inline const char* byte_text(const Slice* slice) {
 // Has the last word on a number with a point that is stored: in another locale it is another one.
 // The locale is asked last, so that nothing waits for the answer, and in a function of its own, so
 // that the callers need no room on the stack.
-[[gnu::noinline]] bool confirm_point(const char* text, double& value) {
-  if (!decimal_point_is_dot()) value = scan_real(text);
+[[gnu::noinline]] bool confirm_point(ByteText text, double& value) {
+  if (!decimal_point_is_dot()) value = scan_real(text.begin);
   return true;
 }
-inline bool confirm_point(const Slice* slice, double& value) {
-  if (!decimal_point_is_dot()) value = scan_real(byte_text(slice));
+inline bool confirm_point(const Slice& slice, double& value) {
+  if (!decimal_point_is_dot()) value = scan_real(slice.copied().begin);
   return true;
 }
 
 template <typename Text>
-inline bool store_real(Text text, double magnitude, bool has_point, double& value) {
-  value = *begin_of(text) == '-' ? -magnitude : magnitude;
+inline bool store_real(const Text& text, double magnitude, bool has_point, double& value) {
+  value = *text.begin == '-' ? -magnitude : magnitude;
   return has_point ? confirm_point(text, value) : true;
 }
 
 // Any text, from its start. The readers below are for most numbers and leave all others to it. One
 // calls the next as its last deed, with all that it knows in registers.
-[[gnu::noinline]] bool read_any_real(const char* text, double& value) {
-  const Decimal number = read_decimal(text);
+[[gnu::noinline]] bool read_any_real(ByteText text, double& value) {
+  const Decimal number = read_decimal(text.begin);
   // A text that is one number from end to end cannot fail the test.
-  const bool whole = number.end != text && *number.end == '\0';
-  if (!whole && judge_real(text) == 0) return false;
+  const bool whole = number.end != text.begin && *number.end == '\0';
+  if (!whole && judge_real(text.begin) == 0) return false;
   value = number.value;
   return number.has_point ? confirm_point(text, value) : true;
 }
-inline bool read_any_real(const Slice* slice, double& value) {
-  return read_any_real(byte_text(slice), value);
+inline bool read_any_real(const Slice& slice, double& value) {
+  return read_any_real(slice.copied(), value);
 }
 
 // Whether a byte that is no digit stands in no number, nor in what the test takes for one.
@@ -136,11 +137,11 @@ inline bool fits_word(const char* text, const char* end, bool has_point) {
 
 // Goes on behind the digits, which end at `end` and make `word`. At least one has been read.
 template <typename Text>
-inline bool read_behind_digits(Text text, const char* end, std::int64_t exponent, bool has_point,
-                               std::uint64_t word, double& value) {
-  if (!fits_word(begin_of(text), end, has_point)) return read_any_real(text, value);
-  end = exponent_end(text, end, exponent);
-  const char behind = byte_in(text, end);
+inline bool read_behind_digits(const Text& text, const char* end, std::int64_t exponent,
+                               bool has_point, std::uint64_t word, double& value) {
+  if (!fits_word(text.begin, end, has_point)) return read_any_real(text, value);
+  end = text.exponent_end(end, exponent);
+  const char behind = text.at(end);
   if (is_foreign(behind)) return false;
   double number;
   const bool settled =
@@ -149,40 +150,39 @@ inline bool read_behind_digits(Text text, const char* end, std::int64_t exponent
 }
 
 template <typename Text>
-inline bool read_wide_fraction(Text text, const char* fraction, const char* text_end,
+inline bool read_wide_fraction(const Text& text, const char* fraction, const char* text_end,
                                std::uint64_t word, double& value) {
-  const char* const end = digits_end(text, append_wide_digits(fraction, word, text_end), word);
+  const char* const end = text.digits_end(append_wide_digits(fraction, word, text_end), word);
   if (end == fraction) return read_any_real(text, value);
   return read_behind_digits(text, end, fraction - end, true, word, value);
 }
 
 // For byte texts out of the way of shorter numbers; for slices, which wait for the heap, in place.
-[[gnu::noinline]] bool read_rest(const char* text, const char* end, std::int64_t exponent,
+[[gnu::noinline]] bool read_rest(ByteText text, const char* end, std::int64_t exponent,
                                  bool has_point, std::uint64_t word, double& value) {
   return read_behind_digits(text, end, exponent, has_point, word, value);
 }
-inline bool read_rest(const Slice* slice, const char* end, std::int64_t exponent, bool has_point,
+inline bool read_rest(const Slice& slice, const char* end, std::int64_t exponent, bool has_point,
                       std::uint64_t word, double& value) {
   return read_behind_digits(slice, end, exponent, has_point, word, value);
 }
-[[gnu::noinline]] bool read_long_fraction(const char* text, const char* fraction,
-                                          const char* text_end, std::uint64_t word, double& value) {
+[[gnu::noinline]] bool read_long_fraction(ByteText text, const char* fraction, const char* text_end,
+                                          std::uint64_t word, double& value) {
   return read_wide_fraction(text, fraction, text_end, word, value);
 }
-inline bool read_long_fraction(const Slice* slice, const char* fraction, const char* text_end,
+inline bool read_long_fraction(const Slice& slice, const char* fraction, const char* text_end,
                                std::uint64_t word, double& value) {
   return read_wide_fraction(slice, fraction, text_end, word, value);
 }
 
 // A number with a point. `fraction` is the place behind it; the digits in front make `word`.
 template <typename Text>
-inline bool read_fraction(Text text, const char* fraction, const char* text_end, std::uint64_t word,
-                          double& value) {
+inline bool read_fraction(const Text& text, const char* fraction, const char* text_end,
+                          std::uint64_t word, double& value) {
   if (text_end - fraction >= 8) return read_long_fraction(text, fraction, text_end, word, value);
-  const char* const end = digits_end(text, fraction, word);
+  const char* const end = text.digits_end(fraction, word);
   if (end == fraction) return read_any_real(text, value);
-  if (byte_in(text, end) != '\0' || end - begin_of(text) > most_word_digits + 1 ||
-      !is_exact_double(word)) {
+  if (text.at(end) != '\0' || end - text.begin > most_word_digits + 1 || !is_exact_double(word)) {
     return read_rest(text, end, fraction - end, true, word, value);
   }
   return store_real(text, exact_double(word) / small_powers[end - fraction], true, value);
@@ -190,7 +190,7 @@ inline bool read_fraction(Text text, const char* fraction, const char* text_end,
 
 // The same where the end of the text is not known: it is looked for as far as most numbers go, and
 // without it the digits are read one by one.
-[[gnu::noinline]] bool read_fraction(const char* text, const char* fraction, std::uint64_t word,
+[[gnu::noinline]] bool read_fraction(ByteText text, const char* fraction, std::uint64_t word,
                                      double& value) {
   constexpr std::size_t near = 32;
   const void* const text_end = std::memchr(fraction, '\0', near);
@@ -200,40 +200,36 @@ inline bool read_fraction(Text text, const char* fraction, const char* text_end,
 
 // `text_end` is passed where it is known. The text may have a zero byte in front of it.
 template <typename Text, typename... End>
-inline bool read_real(double& value, Text text, End... text_end) {
-  const char* const begin = begin_of(text) + (byte_in(text, begin_of(text)) == '-');
+inline bool read_real(double& value, const Text& text, End... text_end) {
+  const char* const begin = text.begin + (text.at(text.begin) == '-');
   std::uint64_t word = 0;
-  const char* const end = digits_end(text, begin, word);
-  const char behind = byte_in(text, end);
+  const char* const end = text.digits_end(begin, word);
+  const char behind = text.at(end);
   if (behind == '.') return read_fraction(text, end + 1, text_end..., word, value);
   if (end == begin) return read_any_real(text, value);
-  if (behind != '\0' || end - begin_of(text) > most_word_digits) {
+  if (behind != '\0' || end - text.begin > most_word_digits) {
     return read_rest(text, end, 0, false, word, value);
   }
   return store_real(text, static_cast<double>(word), false, value);
 }
 
-inline bool read_real(double& value, const char* begin, const char* end, char* work) {
-  const Slice slice{begin, end, work};
-  return read_real(value, &slice, end);
-}
-
-bool read_bounded_slice(const char* text, double minimum, double maximum, double& value, int start,
-                        int count) {
+bool read_slice_within_bounds(const char* text, double minimum, double maximum, double& value,
+                              int start, int count) {
   return read_slice(text, start, count, [&](const char* begin, const char* end, char* work) {
-    return read_real(value, begin, end, work) && within_bounds(minimum, value, maximum);
+    return read_real(value, Slice{begin, end, work}, end) && within_bounds(minimum, value, maximum);
   });
 }
 
 bool read_real_slice(const char* text, int start, int count, double& value) {
   return read_slice(text, start, count, [&](const char* begin, const char* end, char* work) {
-    return read_real(value, begin, end, work);
+    return read_real(value, Slice{begin, end, work}, end);
   });
 }
 
-// What the runtime's atof reads in most slices: declines where white space or a '+' comes first, no
-// digit, many digits, an exponent or what may be hexadecimal.
-inline bool leading_real(const char* text, const char* end, double& value) {
+// What the runtime's atof reads in most slices. Declines where white space or a '+' comes first, no
+// digit, many digits, an exponent, what may be hexadecimal, or where the locale has another decimal
+// point.
+inline bool try_leading_real(const char* text, const char* end, double& value) {
   const bool negative = byte_at(text, end) == '-';
   const char* const begin = text + negative;
   std::uint64_t word = 0;
@@ -241,11 +237,12 @@ inline bool leading_real(const char* text, const char* end, double& value) {
   std::ptrdiff_t decimals = 0;
   if (byte_at(stop, end) == '.') {
     const char* const fraction = stop + 1;
-    stop = append_digits(append_wide_digits(fraction, word, end), word, end);
+    stop = append_all_digits(fraction, word, end);
     decimals = stop - fraction;
-    if (stop - begin == 1) return false;
+    if (stop - begin == 1) return false;  // a point alone
   }
-  const int behind = byte_at(stop, end) | 0x20;
+  const int behind = byte_at(stop, end) | 0x20;  // a letter in either case
+  static_assert(most_word_digits < static_cast<std::ptrdiff_t>(std::size(small_powers)));
   if (stop == begin || stop - begin > most_word_digits || behind == 'e' || behind == 'x' ||
       !is_exact_double(word) || !decimal_point_is_dot()) {
     return false;
@@ -256,7 +253,7 @@ inline bool leading_real(const char* text, const char* end, double& value) {
 }
 
 // The same for any byte text.
-double any_leading_real(const char* text) {
+double leading_real(const char* text) {
   if (decimal_point_is_dot()) {
     const char* const number = skip_white_space(text);
     const Decimal decimal = read_decimal(number);
@@ -284,11 +281,11 @@ int Zeph_Double_Check(const std::string& text) {
 }
 
 bool Zeph_To_Double(const char* text, double* value) {
-  return zeph::read_real(*value, text);
+  return zeph::read_real(*value, zeph::ByteText{text});
 }
 
 bool Zeph_To_Double(const std::string& text, double* value) {
-  return zeph::read_real(*value, text.c_str(), text.c_str() + text.size());
+  return zeph::read_real(*value, zeph::ByteText{text.c_str()}, text.c_str() + text.size());
 }
 
 bool Zeph_To_Double(const char* text, double* value, int start, int count) {
@@ -300,31 +297,32 @@ bool Zeph_To_Double(const std::string& text, double* value, int start, int count
 }
 
 bool Zeph_To_Double(const char* text, double minimum, double maximum, double* value) {
-  return zeph::read_real(*value, text) && zeph::within_bounds(minimum, *value, maximum);
+  return zeph::read_real(*value, zeph::ByteText{text}) &&
+         zeph::within_bounds(minimum, *value, maximum);
 }
 
 bool Zeph_To_Double(const std::string& text, double minimum, double maximum, double* value) {
-  return zeph::read_real(*value, text.c_str(), text.c_str() + text.size()) &&
+  return zeph::read_real(*value, zeph::ByteText{text.c_str()}, text.c_str() + text.size()) &&
          zeph::within_bounds(minimum, *value, maximum);
 }
 
 bool Zeph_To_Double(const char* text, double minimum, double maximum, double* value, int start,
                     int count) {
-  return zeph::read_bounded_slice(text, minimum, maximum, *value, start, count);
+  return zeph::read_slice_within_bounds(text, minimum, maximum, *value, start, count);
 }
 
 bool Zeph_To_Double(const std::string& text, double minimum, double maximum, double* value,
                     int start, int count) {
-  return zeph::read_bounded_slice(text.c_str(), minimum, maximum, *value, start, count);
+  return zeph::read_slice_within_bounds(text.c_str(), minimum, maximum, *value, start, count);
 }
 
 double Zeph_Ext_Dbl_From_Str(const char* text, int start, int count) {
   return zeph::convert_short_slice(text, start, count, "[ZEPH_API] Ext_Dbl_From_Str Size Error",
-                                   zeph::leading_real, zeph::any_leading_real);
+                                   zeph::try_leading_real, zeph::leading_real);
 }
 
 double Zeph_Ext_Dbl_From_Str(const char* text, int start, int count, char* buffer) {
-  return zeph::convert_slice(text, start, count, buffer, zeph::any_leading_real);
+  return zeph::convert_slice(text, start, count, buffer, zeph::leading_real);
 }
 
 }  // namespace Orbane

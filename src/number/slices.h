@@ -1,4 +1,4 @@
-// Slices of a text: what lies behind one may continue the number.
+// Slices of a text. What lies behind one may continue the number, so that readers are told its end.
 #ifndef ZEPH_NUMBER_SLICES_H
 #define ZEPH_NUMBER_SLICES_H
 

@@ -46,13 +46,14 @@ namespace Orbane {
 
 char* Zeph_Cat(char* text, const char* more) {
   char* const end = text + std::strlen(text);
+  // `more` may end where the text does: its terminator is read before it is written over.
   zeph::move_bytes(end, more, std::strlen(more) + 1);
   return text;
 }
 
 char* Zeph_Cat(char* text, char byte) {
   if (byte == '\0') return text;
-  const char with_terminator[] = {byte, '\0'};
+  const char with_terminator[] = {byte, '\0'};  // one store, not two
   std::memcpy(text + std::strlen(text), with_terminator, sizeof with_terminator);
   return text;
 }

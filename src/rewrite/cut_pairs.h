@@ -48,15 +48,17 @@ inline std::size_t cut_pairs(Occurrences& occurrences, const GapText& text) {
   if (new_size != size) text[new_size] = '\0';
 }
 
-// From the first byte of the pair's first kind on. The next bytes are gone through one by one: that
-// needs no length, and no search, which a short text would not repay.
+// `from` is the first byte that is the first of the pair. The next bytes are gone through one by
+// one: that needs no length, and no search, which a short text would not repay.
 [[gnu::noinline]] inline void cut_near_pairs(char* text, char* from, const char* pair) {
   constexpr std::ptrdiff_t near = 64;
   const char first = pair[0], second = pair[1];
-  for (const char* const begin = from; from[0] != first || from[1] != second; ++from) {
+  for (std::ptrdiff_t seen = 0; from[0] != first || from[1] != second; ++from, ++seen) {
     if (*from == '\0') return;
-    if (from - begin == near) return cut_far_pairs(text, from, from, pair);
+    if (seen == near) return cut_far_pairs(text, from, from, pair);
   }
+  // The gap, from `top` to `from`: a pair falls into it, and those that stand around it then; what
+  // follows comes down to its front, up to the next pair.
   char* top = from;
   for (const char* const begin = from; from - begin < near;) {
     for (from += 2; top != text && top[-1] == first && *from == second; ++from) --top;
@@ -67,7 +69,7 @@ inline std::size_t cut_pairs(Occurrences& occurrences, const GapText& text) {
   cut_far_pairs(text, top, from, pair);
 }
 
-// The same in a byte text. Its ways stand apart, so that none saves registers for another.
+// Cuts a pair out of a byte text. The ways stand apart, so that none saves registers for another.
 inline void cut_pairs_in_bytes(char* text, const char* pair) {
   if (*text == pair[0]) return cut_near_pairs(text, text, pair);
   char* const from = text + (find_byte_or_end(text, pair[0]) - text);

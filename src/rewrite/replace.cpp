@@ -10,9 +10,9 @@
 #include "rewrite/cut_pairs.h"
 #include "rewrite/gap_text.h"
 #include "rewrite/occurrences.h"
-#include "scan/short_length.h"
 #include "scan/find_byte.h"
 #include "scan/remove_byte.h"
+#include "scan/short_length.h"
 #include "zeph.h"
 
 namespace zeph {

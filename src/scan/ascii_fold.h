@@ -61,7 +61,7 @@ inline void store_first(char* out, __m128i bytes) {
 template <std::size_t half>
 inline void put_ascii_fold_of_ends(LetterCase to, char* out, const char* from, std::size_t size) {
   const char first = first_folded(to);
-  const __m128i head = load_word<half>(from), tail = load_word<half>(from + size - half);
+  const __m128i head = load_first<half>(from), tail = load_first<half>(from + size - half);
   store_first<half>(out, other_case_16(head, first));
   store_first<half>(out + size - half, other_case_16(tail, first));
 }
@@ -69,9 +69,9 @@ inline void put_ascii_fold_of_ends(LetterCase to, char* out, const char* from, s
 // Sizes from 16 on.
 inline void put_ascii_fold_16(LetterCase to, char* out, const char* from, std::size_t size) {
   const char first = first_folded(to);
-  const __m128i tail = load_word<16>(from + size - 16);
+  const __m128i tail = load_first<16>(from + size - 16);
   for (std::size_t i = 0; i + 16 < size; i += 16) {
-    store_first<16>(out + i, other_case_16(load_word<16>(from + i), first));
+    store_first<16>(out + i, other_case_16(load_first<16>(from + i), first));
   }
   store_first<16>(out + size - 16, other_case_16(tail, first));
 }

@@ -35,7 +35,7 @@ inline __m128i sixteen_times(char byte) {
 // 2, 4, 8 or 16 bytes and zeros behind them. Not by a copy to the vector as a whole, which goes
 // through memory as well.
 template <std::size_t size>
-__m128i load_word(const char* from) {
+__m128i load_first(const char* from) {
   if constexpr (size == 16) {
     return _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
   } else if constexpr (size == 8) {
@@ -57,7 +57,7 @@ std::uint64_t byte_mask_of_ends(const char* bytes, std::size_t size, char byte) 
                                                         << (size - 32);
   } else {
     const auto places = [byte](const char* from) -> std::uint64_t {
-      const __m128i word = load_word<half>(from);
+      const __m128i word = load_first<half>(from);
       const int equal = _mm_movemask_epi8(_mm_cmpeq_epi8(word, sixteen_times(byte)));
       return static_cast<unsigned>(equal) & ((std::uint64_t{1} << half) - 1);
     };

@@ -17,6 +17,7 @@ std::size_t copy_text(char* to, const char* from, std::size_t most) {
   if (has_avx512()) size = copy_text_128_avx512(to, from, most);
 #endif
 #ifdef ZEPH_HAS_AVX2
+  // Behind the wider twin it has nothing left to do.
   if (has_avx2()) size += copy_text_128_avx2(to + size, from + size, most - size);
 #endif
   for (;;) {

@@ -77,7 +77,8 @@ template <std::size_t half, typename Fold>
 bool ends_equal(const char* a, const char* b, std::size_t size, Fold) {
   const std::size_t tail = size - half;
   const auto equal = [=](std::size_t at) {
-    return _mm_cmpeq_epi8(Fold::wide(load_word<half>(a + at)), Fold::wide(load_word<half>(b + at)));
+    return _mm_cmpeq_epi8(Fold::wide(load_first<half>(a + at)),
+                          Fold::wide(load_first<half>(b + at)));
   };
   return bits_of(_mm_and_si128(equal(0), equal(tail))) == 0xFFFF;
 }

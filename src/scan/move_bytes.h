@@ -72,9 +72,12 @@ void fill_ends(char* to, int byte, std::size_t size) {
   std::memset(to + size - half, byte, half);
 }
 
+constexpr std::size_t most_filled_bytes = 64;
+
 // Fills 1 to 64 bytes without a call.
 inline void fill_short(char* to, int byte, std::size_t size) {
   if (__builtin_expect(size >= 16, 1)) {
+    // Where the second piece starts, from the front and from the back.
     const std::size_t second = size < 32 ? size - 16 : 16;
     fill_ends<16>(to, byte, second + 16);
     fill_ends<16>(to + size - 16 - second, byte, second + 16);

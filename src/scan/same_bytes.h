@@ -32,8 +32,8 @@ constexpr std::size_t short_range = 64;
 
 #ifdef ZEPH_SCAN_SSE2
 
-// Ranges of 16 to 64 bytes as four vectors each, which overlap in the shorter ones: no size takes
-// another path than the others.
+// Ranges of 16 to 64 bytes as four vectors each: two from the front and two from the back, which
+// overlap in the shorter ones. No size takes another path than the others.
 struct VectorPairs {
   __m128i a[4], b[4];
 
@@ -76,7 +76,7 @@ inline bool same_short_bytes(const char* a, const char* b, std::size_t size) {
 enum class Likeness { same, different, undecided };
 
 // Whether two ranges of one size hold the same text, by one look. Undecided where they differ, but
-// perhaps behind a zero byte that ends both texts.
+// perhaps behind a zero byte that ends both texts: always where fewer than 16 bytes differ.
 [[gnu::always_inline]] inline Likeness likeness_of_short_texts(const char* a, const char* b,
                                                                std::size_t size) {
 #ifdef ZEPH_SCAN_SSE2
