@@ -71,8 +71,7 @@ std::size_t common_front(const char* a, const char* b, std::size_t size, Fold fo
 
 #ifdef ZEPH_SCAN_SSE2
 
-// Whether up to 64 bytes are all equal: for sizes from `half` to twice as many the first and the
-// last `half`, so that a few bytes take no loop.
+// Whether from `half` to twice as many bytes are equal: the first and the last `half`.
 template <std::size_t half, typename Fold>
 bool ends_equal(const char* a, const char* b, std::size_t size, Fold) {
   const std::size_t tail = size - half;
@@ -83,19 +82,19 @@ bool ends_equal(const char* a, const char* b, std::size_t size, Fold) {
   return bits_of(_mm_and_si128(equal(0), equal(tail))) == 0xFFFF;
 }
 
+// Whether ranges whose first bytes are equal are so as a whole. A few bytes take no loop.
 template <typename Fold>
-bool all_equal(const char* a, const char* b, std::size_t size, Fold fold) {
+bool equal_behind_first(const char* a, const char* b, std::size_t size, Fold fold) {
   if (size >= 16) return common_front(a, b, size, fold) == size;
   if (size >= 8) return ends_equal<8>(a, b, size, fold);
   if (size >= 4) return ends_equal<4>(a, b, size, fold);
-  if (size >= 2) return ends_equal<2>(a, b, size, fold);
-  return size == 0 || fold(*a) == fold(*b);
+  return size < 2 || ends_equal<2>(a, b, size, fold);
 }
 
 #else
 
 template <typename Fold>
-bool all_equal(const char* a, const char* b, std::size_t size, Fold fold) {
+bool equal_behind_first(const char* a, const char* b, std::size_t size, Fold fold) {
   return common_front(a, b, size, fold) == size;
 }
 
@@ -151,7 +150,7 @@ inline std::size_t find_in_mask(View haystack, View needle, Fold fold) {
   if (places != 0) places &= places_of(haystack.data(), count, Fold::probe(needle, last));
   for (; places != 0; places &= places - 1) {
     const std::size_t at = lowest_place(places);
-    if (all_equal(haystack.data() + at, needle.data(), last, fold)) return at;
+    if (equal_behind_first(haystack.data() + at, needle.data(), last, fold)) return at;
   }
   return View::npos;
 }
