@@ -16,8 +16,8 @@ namespace zeph {
 // which the interface promises all the same, is one that a compiler may leave out otherwise.
 inline char* request_block(std::size_t size) {
   const int before = errno;
-  char* block = static_cast<char*>(std::calloc(size, 1));
-  __asm__ volatile("" : "+r"(block));
+  char* const block = static_cast<char*>(std::calloc(size, 1));
+  __asm__ volatile("" : : "r"(block) : "memory");
   errno = before;
   return block;
 }
@@ -56,7 +56,7 @@ class WorkBuffers {
     return true;
   }
   char* operator[](std::size_t index) const {
-    return blocks_[index];
+    return blocks_.data()[index];
   }
 
  private:
