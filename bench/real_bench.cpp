@@ -157,7 +157,9 @@ Row& add_bounded_row(const char* operation, const Batch& batch, const std::vecto
     return searched ? begin_of(t) + std::strlen(begin_of(t)) : end_of(t);
   };
   auto& added = row("number", operation, input, batch.size);
-  added.reason("it asks which decimal point the locale has; the peers take '.'")
+  added
+      .reason(slice ? "errno is kept over the request, and the locale asked for its decimal point"
+                    : "it asks which decimal point the locale has; the peers take '.'")
       .zeph(passed(texts, read))
       .peer("std::from_chars, tests", sum_of(texts, [end_found](const Text& t) {
               return bounded_by_from_chars(begin_of(t), end_found(t));
