@@ -36,7 +36,14 @@ inline const char* append_digits(const char* text, Word& word) {
   return text;
 }
 
-// The same in a text that may go on behind its end.
+// The end of the digits alone.
+inline const char* skip_digits(const char* text) {
+#pragma GCC unroll 4
+  while (digit_of(*text) <= 9) ++text;
+  return text;
+}
+
+// Appends the digits of a text that may go on behind its end.
 inline const char* append_digits(const char* text, std::uint64_t& word, const char* text_end) {
   for (; text != text_end && digit_of(*text) <= 9; ++text) word = word * 10 + digit_of(*text);
   return text;

@@ -139,9 +139,14 @@ inline Integer read_integer(const char* text, const char* end) {
   return whole_integer(word, negative);
 }
 
+// The test alone needs no value.
 inline int judge_integer(const char* text) {
-  if (!read_integer(text).whole) return 0;
-  return *text == '-' ? 2 : 1;
+  const bool negative = *text == '-';
+  const char* const body = text + negative;
+  if (*skip_digits(body) != '\0') {
+    if (!has_hex_prefix(body) || !read_other_integer(text, 0).whole) return 0;
+  }
+  return negative ? 2 : 1;
 }
 
 bool read_slice_within_bounds(const char* text, int minimum, int maximum, int& value, int start,
