@@ -31,15 +31,15 @@
 #include <vector>
 
 /// Lets a program call the shared library through the address that the loader has stored, as on
-/// Windows. Without it each call takes one more jump, through a stub in the program, which the
-/// short operations feel: some half nanosecond of two to five.
+/// Windows. Without it each call takes one more jump, through the program's procedure linkage table
+/// (PLT), which the short operations feel: some half nanosecond of two to five.
 #if defined(__ELF__) && defined(__x86_64__) && defined(__has_attribute)
 #if __has_attribute(__noplt__)
-#define ZEPH_NO_STUB __attribute__((__noplt__))
+#define ZEPH_NO_PLT __attribute__((__noplt__))
 #endif
 #endif
-#ifndef ZEPH_NO_STUB
-#define ZEPH_NO_STUB
+#ifndef ZEPH_NO_PLT
+#define ZEPH_NO_PLT
 #endif
 
 /// Marks what the shared library exports. Define ZEPH_STATIC where the static library is linked;
@@ -53,7 +53,7 @@
 #define ZEPH_API __declspec(dllimport)
 #endif
 #else
-#define ZEPH_API __attribute__((visibility("default"))) ZEPH_NO_STUB
+#define ZEPH_API __attribute__((visibility("default"))) ZEPH_NO_PLT
 #endif
 
 /// Lets compilers that can check a printf format do so.

@@ -117,7 +117,7 @@ struct X86Words {
   }
   // By the instruction of the last round, so that no load depends on the key: all columns are the
   // word, which the shifted rows do not change. The instruction that is made for key words takes
-  // three times as long.
+  // longer.
   [[gnu::target("aes")]] static std::uint32_t substitute(std::uint32_t word) {
     const __m128i words = _mm_set1_epi32(static_cast<int>(word));
     const __m128i substituted = _mm_aesenclast_si128(words, _mm_setzero_si128());
