@@ -139,11 +139,13 @@ void fields_from_the_right(Draw& draw) {
 }
 
 void words_by_index(Draw& draw) {
-  const std::string text = list_text(draw);
+  std::string text = list_text(draw);
+  while (text.size() < 2000 && draw.yes()) text += text;  // many words are passed in parts
   const char separator = draw.yes() ? ' ' : ',';
   Fields words = items_of(text, separator);
   words.erase(std::remove(words.begin(), words.end(), ""), words.end());
-  const int index = draw.yes() ? draw.between(0, 4) : draw.any_int();
+  const int last = static_cast<int>(words.size());
+  const int index = draw.yes() ? draw.between(0, last) : draw.any_int();
   const int limit = draw.between(-1, 140);
   const auto most = static_cast<std::size_t>(std::max(limit, 0));
   const bool there = index >= 0 && static_cast<std::size_t>(index) < words.size();

@@ -35,12 +35,51 @@ const char* skip_separators(const char* text, char separator) {
   return text;
 }
 
+// From that many words on their separators are counted, many at a look.
+constexpr int many_words = 4;
+
+// Steps over the runs of separators that end in the next 64 bytes, none behind the terminator, and
+// takes them off `runs`. Returns whether that is all: `text` is behind the last run then, or at the
+// terminator.
+bool skip_a_look(const char*& text, char separator, std::size_t& runs) {
+  const std::size_t size = strnlen(text, mask_bytes);
+  std::uint64_t ends = byte_mask(text, size, separator) & ~byte_mask(text + 1, size, separator);
+  for (; ends != 0; ends &= ends - 1) {
+    if (--runs > 0) continue;
+    text += lowest_place(ends) + 1;
+    return true;
+  }
+  text += size;
+  return size < mask_bytes;
+}
+
+// As skip_words(). A whole part is passed by its count alone, once the first look has not been
+// enough.
+[[gnu::noinline]] const char* skip_many_words(const char* text, char separator, int count) {
+  constexpr std::size_t part = 512;
+  auto runs = static_cast<std::size_t>(count);
+  text = skip_separators(text, separator);
+  if (skip_a_look(text, separator, runs)) return text;
+  while (std::memchr(text, '\0', part) == nullptr) {
+    const std::size_t found = count_runs(text, part, separator);
+    if (found >= runs) break;
+    runs -= found;
+    text += part;
+  }
+  while (!skip_a_look(text, separator, runs)) continue;
+  return text;
+}
+
 void put_word(char* out, const char* text, char separator, int index, std::size_t limit) {
   if (index < 0) {
     *out = '\0';
     return;
   }
-  if (index > 0) text = skip_words(text, separator, index);
+  if (index >= many_words) {
+    text = skip_many_words(text, separator, index);
+  } else if (index > 0) {
+    text = skip_words(text, separator, index);
+  }
   text = skip_separators(text, separator);
   put_field(out, text, find_byte_or_end(text, separator), limit);
 }
