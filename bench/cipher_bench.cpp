@@ -120,7 +120,8 @@ void seal_block(Keys& k, Peers& peers) {
 }
 #endif
 
-// The key in force is the same before and behind, as all other rows seal under it.
+// The key in force is the same before and behind, as all other rows seal under it. Keys of the two
+// shorter sizes have no row, as whatever is timed behind them would seal under them.
 void add_key_row(const unsigned char* key) {
   Keys& k = keep(Keys{});
   std::copy(key, key + sizeof k.key, k.key);

@@ -125,18 +125,24 @@ void add_folded_string_row(Pair& t, const std::string& input) {
 #endif
 }
 
+void add_exact_rows(Pair& t, const std::string& input) {
+  add_byte_row(t, input);
+  add_string_row(t, input);
+  add_prefix_rows(t, input);
+}
+
+void add_folded_rows(Pair& t, const std::string& input) {
+  add_folded_byte_row(t, input);
+  add_folded_string_row(t, input);
+  add_folded_prefix_rows(t, input);
+}
+
 void add_equal_rows(std::size_t size) {
   const std::string text = prose(size);
   Pair& equal = keep(Pair(text, text, size - 1));
-  const std::string input = size_text(size) + ", equal";
-  add_byte_row(equal, input);
-  add_string_row(equal, input);
-  add_prefix_rows(equal, input);
   Pair& folded = keep(Pair(text, upper(text), size - 1));
-  const std::string other_case = size_text(size) + ", other case";
-  add_folded_byte_row(folded, other_case);
-  add_folded_string_row(folded, other_case);
-  add_folded_prefix_rows(folded, other_case);
+  add_exact_rows(equal, size_text(size) + ", equal");
+  add_folded_rows(folded, size_text(size) + ", other case");
 }
 
 void add_differing_rows(std::size_t size, std::size_t place, const std::string& where) {
@@ -145,20 +151,15 @@ void add_differing_rows(std::size_t size, std::size_t place, const std::string& 
   other[place] = '#';
   Pair& exact = keep(Pair(text, other, size));
   Pair& folded = keep(Pair(text, upper(other), size));
-  add_byte_row(exact, input);
-  add_folded_byte_row(folded, input);
-  if (size != 64) return;
-  add_string_row(exact, input);
-  add_prefix_rows(exact, input);
-  add_folded_string_row(folded, input);
-  add_folded_prefix_rows(folded, input);
+  add_exact_rows(exact, input);
+  add_folded_rows(folded, input);
 }
 
 }  // namespace
 
 void register_compare_rows() {
-  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) add_equal_rows(size);
-  for (const std::size_t size : {8U, 32U, 64U, 4096U}) {
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
+    add_equal_rows(size);
     add_differing_rows(size, 0, "first");
     add_differing_rows(size, size / 2, "middle");
     add_differing_rows(size, size - 1, "last");

@@ -50,12 +50,15 @@ template <bool fold>
   }
 }
 
+// `may_miss`: the word may not be there, which gives the empty text.
+template <bool may_miss>
 [[gnu::noinline]] int word_by_walk(const char* text, char separator, int index, char* out,
                                    std::size_t limit) {
   const char separators[] = {separator, '\0'};
   for (const char* end; *(end = strchrnul(text, separator)) != '\0' && index > 0; --index) {
     text = end + 1 + std::strspn(end + 1, separators);
   }
+  if (may_miss && index > 0) return *out = '\0';
   const auto found = static_cast<std::size_t>(strchrnul(text, separator) - text);
   const std::size_t size = std::min(found, limit);
   std::memcpy(out, text, size);
@@ -132,9 +135,15 @@ void add_word_row(std::size_t items, int index, const std::string& place, char s
       return Orbane::Zeph_Seperate_Char_With_Index(text, ',', word, index, limit), 0;
     });
   }
-  added.peer("strchrnul walk", [text, separator, word, index] {
-    return word_by_walk(text, separator, index, word, limit);
-  });
+  if (index < static_cast<int>(items)) {
+    added.peer("strchrnul walk", [text, separator, word, index] {
+      return word_by_walk<false>(text, separator, index, word, limit);
+    });
+  } else {
+    added.peer("strchrnul walk", [text, separator, word, index] {
+      return word_by_walk<true>(text, separator, index, word, limit);
+    });
+  }
 }
 
 }  // namespace
@@ -143,12 +152,15 @@ void register_indexed_rows() {
   for (const std::size_t items : {10U, 100U, 10000U}) {
     const std::string last = "item" + std::to_string(items - 1);
     for (const Function& f : functions) {
+      add_index_row(f, items, "item0", "first");
       add_index_row(f, items, last, "last");
       add_index_row(f, items, "item", "none");
     }
     for (const char separator : {' ', ','}) {
-      add_word_row(items, static_cast<int>(items) - 1, "last", separator);
-      if (items == 10) add_word_row(items, 0, "first", separator);
+      const int count = static_cast<int>(items);
+      add_word_row(items, 0, "first", separator);
+      add_word_row(items, count - 1, "last", separator);
+      add_word_row(items, count, "none", separator);
     }
   }
 }

@@ -63,10 +63,10 @@ std::string list_of(std::size_t items) {
   }
 }
 
-void add_list_rows(std::size_t items) {
-  const std::string& text = keep(list_of(items));
+// The text is split, and what it splits into is joined.
+void add_list_rows(std::string fixture, const std::string& input) {
+  const std::string& text = keep(std::move(fixture));
   const List& list = keep(split_by_find(text));
-  const std::string input = std::to_string(items) + " items";
   auto& split = row("lists", "Zeph_Split", input, text.size());
   auto& join = row("lists", "Zeph_Join", input, text.size());
   split
@@ -107,7 +107,12 @@ void add_list_rows(std::size_t items) {
 }  // namespace
 
 void register_lists_rows() {
-  for (const std::size_t items : {10U, 100U, 10000U}) add_list_rows(items);
+  for (const std::size_t items : {10U, 100U, 10000U}) {
+    add_list_rows(list_of(items), std::to_string(items) + " items");
+  }
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
+    add_list_rows(std::string(size, 'x'), size_text(size) + ", no separator");
+  }
 }
 
 }  // namespace zeph_bench

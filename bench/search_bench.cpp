@@ -58,8 +58,7 @@ int find_by_view(const char* text, const char* pattern) {
   return found == std::string_view::npos ? -1 : static_cast<int>(found);
 }
 
-void add_rows(Search search, const std::string& input) {
-  Search& s = keep(std::move(search));
+void add_position_rows(Search& s, const std::string& input) {
   row("search", "Zeph_Find_Position", input, s.text.size())
       .reason(service_reason)
       .zeph([&s] { return Orbane::Zeph_Find_Position(s.bytes, s.sought); })
@@ -84,8 +83,7 @@ void add_rows(Search search, const std::string& input) {
 #endif
 }
 
-void add_contains_rows(Search search, const std::string& input) {
-  Search& s = keep(std::move(search));
+void add_contains_rows(Search& s, const std::string& input) {
   row("search", "Zeph_Find_SubString", input, s.text.size())
       .reason(service_reason)
       .zeph([&s] { return Orbane::Zeph_Find_SubString(s.bytes, s.sought); })
@@ -126,21 +124,18 @@ void add_contains_rows(Search search, const std::string& input) {
   return found == last ? -1 : static_cast<int>(found - text);
 }
 
-void add_range_rows(Search search, const std::string& input) {
-  Search& s = keep(std::move(search));
+void add_exact_range_rows(Search& s, const std::string& input) {
   const std::size_t end = s.text.size() - 1;
   const int stop = static_cast<int>(end);
-  const std::string range = ", a range";
-  row("search", "Zeph_Find_Position" + range, input, s.text.size())
+  row("search", "Zeph_Find_Position, a range", input, s.text.size())
       .zeph([&s, stop] { return Orbane::Zeph_Find_Position(s.bytes, 1, stop, s.sought); })
       .peer("strnlen, memmem", [&s, end] { return find_in_slice(s.bytes, 1, end, s.sought); });
-  row("search", "Zeph_Find_SubString" + range, input, s.text.size())
+  row("search", "Zeph_Find_SubString, a range", input, s.text.size())
       .zeph([&s, stop] { return Orbane::Zeph_Find_SubString(s.bytes, 1, stop, s.sought); })
       .peer("strnlen, memmem", [&s, end] { return find_in_slice(s.bytes, 1, end, s.sought) >= 0; });
 }
 
-void add_folded_range_rows(Search search, const std::string& input) {
-  Search& s = keep(std::move(search));
+void add_folded_range_rows(Search& s, const std::string& input) {
   const std::size_t end = s.text.size() - 1;
   const int stop = static_cast<int>(end);
   row("search", "Zeph_Find_Position_L, a range", input, s.text.size())
@@ -158,43 +153,65 @@ void add_folded_range_rows(Search search, const std::string& input) {
             [&s, end] { return search_folded_in_slice(s.bytes, 1, end, s.sought) >= 0; });
 }
 
+// ---- the inputs, the same for all eight operations ----
+
+void add_whole_rows(Search& s, const std::string& input) {
+  add_position_rows(s, input);
+  add_contains_rows(s, input);
+}
+
+void add_range_rows(Search& s, const std::string& input) {
+  add_exact_range_rows(s, input);
+  add_folded_range_rows(s, input);
+}
+
+void add_rows(Search search, const std::string& input) {
+  Search& s = keep(std::move(search));
+  add_whole_rows(s, input);
+  add_range_rows(s, input);
+}
+
+void add_adversarial_row(Search search, const std::string& input) {
+  Search& s = keep(std::move(search));
+  add_whole_rows(s, input);
+  add_exact_range_rows(s, input);
+  // The peers of a folded range begin the pattern anew at every byte: their time is the length of
+  // the text by that of the pattern, which the longest of these texts are not given to.
+  if (s.text.size() <= 65536) add_folded_range_rows(s, input);
+}
+
 void add_adversarial_rows(std::size_t size) {
   const std::string run(64, 'a'), half(32, 'a'), text(size, 'a'), name = size_text(size);
-  add_rows({text, run + "b"}, name + ", a..a, a..ab");
-  add_rows({text, "b" + run}, name + ", a..a, ba..a");
-  add_rows({text, half + "b" + half}, name + ", a..a, a..aba..a");
+  add_adversarial_row({text, run + "b"}, name + ", a..a, a..ab");
+  add_adversarial_row({text, "b" + run}, name + ", a..a, ba..a");
+  add_adversarial_row({text, half + "b" + half}, name + ", a..a, a..aba..a");
   // Many places where all but the far end of the pattern meets, for which no single byte tells.
   std::string abab, block;
   while (abab.size() < size) abab += abab.size() % 129 == 128 ? "b" : "ab";
   while (block.size() < 256) block += "ab";
-  add_rows({abab, "ababababababac"}, name + ", abab.., short");
-  add_rows({abab, block + "c"}, name + ", abab.., ab..abc");
-  add_rows({abab, block + "b" + block}, name + ", abab.., ab..bab..");
+  add_adversarial_row({abab, "ababababababac"}, name + ", abab.., short");
+  add_adversarial_row({abab, block + "c"}, name + ", abab.., ab..abc");
+  add_adversarial_row({abab, block + "b" + block}, name + ", abab.., ab..bab..");
+}
+
+void add_prose_rows(std::size_t size) {
+  const std::string text = prose(size), name = size_text(size);
+  std::string alarm = text;
+  alarm.replace(size - 6, 5, "ALARM");
+  add_rows({alarm, "ALARM"}, name + ", at the end");
+  add_rows({text, "Pressed"}, name + ", near misses");
+  add_rows({text, "#"}, name + ", one byte, none");
+  // The range starts at the second byte, and so does what stands at its start.
+  add_whole_rows(keep(Search(text, "Chamber")), name + ", at the start");
+  add_range_rows(keep(Search(text, "hamber")), name + ", at the start");
 }
 
 }  // namespace
 
 void register_search_rows() {
   add_rows({"S1F13", "F"}, "5 bytes, F");
-  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
-    const std::string text = prose(size), name = size_text(size);
-    std::string alarm = text;
-    alarm.replace(size - 6, 5, "ALARM");
-    add_rows({alarm, "ALARM"}, name + ", at the end");
-    add_range_rows({alarm, "ALARM"}, name + ", at the end");
-    add_range_rows({text, "Pressed"}, name + ", near misses");
-    if (size <= 4096) {
-      add_contains_rows({alarm, "ALARM"}, name + ", at the end");
-      add_contains_rows({text, "Pressed"}, name + ", near misses");
-      add_folded_range_rows({alarm, "ALARM"}, name + ", at the end");
-      add_folded_range_rows({text, "Pressed"}, name + ", near misses");
-    }
-    add_rows({text, "Pressed"}, name + ", near misses");
-    add_rows({text, "#"}, name + ", one byte, none");
-    add_rows({text, "Chamber"}, name + ", at the start");
-  }
-  add_adversarial_rows(4096);
-  add_adversarial_rows(1048576);
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) add_prose_rows(size);
+  for (const std::size_t size : {4096U, 65536U, 1048576U}) add_adversarial_rows(size);
 }
 
 }  // namespace zeph_bench
