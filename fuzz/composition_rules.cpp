@@ -123,8 +123,13 @@ void fixed_buffers(Draw& draw) {
   expect_cut(integer, printed("%d", integer));
   expect_cut(real, printed("%f", real));
   const GuardedBuffer block(text.size());
-  EXPECT_EQ(Zeph_Set_Mem(block.data(), integer, static_cast<unsigned>(text.size())), block.data());
-  EXPECT_EQ(block.bytes(), std::string(text.size(), static_cast<char>(integer)));
+  const auto count = static_cast<unsigned>(text.size());
+  for (const auto fill : {integer, ~integer}) {
+    EXPECT_EQ(fill == integer ? Zeph_Set_Mem(block.data(), fill, count)
+                              : exported(Zeph_Set_Mem)(block.data(), fill, count),
+              block.data());
+    EXPECT_EQ(block.bytes(), std::string(text.size(), static_cast<char>(fill)));
+  }
 }
 
 // Bytes written inside a text, one by one in rising order.

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "support/draw.h"
+#include "support/exported.h"
 #include "support/fold.h"
 #include "support/guarded_buffer.h"
 #include "zeph.h"

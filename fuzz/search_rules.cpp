@@ -144,19 +144,26 @@ void markers(Draw& draw) {
   EXPECT_EQ(tail, right) << "the marker as the output";
 }
 
-// All forms, whole or up to a number. What stands behind a zero byte in a String does not count.
+// In the caller and in the library, of byte texts or Strings, whole or up to a number.
+template <typename Text, typename... Number>
+void expect_equal(Text a, Text b, bool exact, bool folded, Number... n) {
+  using Compare = bool(Text, Text, Number...);
+  EXPECT_EQ(Zeph_Compare(a, b, n...), exact) << a << ' ' << b;
+  EXPECT_EQ(Zeph_Compare_L(a, b, n...), folded) << a << ' ' << b;
+  EXPECT_EQ(exported<Compare>(Zeph_Compare)(a, b, n...), exact) << a << ' ' << b;
+  EXPECT_EQ(exported<Compare>(Zeph_Compare_L)(a, b, n...), folded) << a << ' ' << b;
+}
+
+// What stands behind a zero byte in a String does not count.
 template <typename... Number>
 void expect_comparison(const char* a, const char* b, bool exact, bool folded, Number... n) {
   std::string strings[] = {a, b};
-  EXPECT_EQ(Zeph_Compare(a, b, n...), exact) << a << ' ' << b;
-  EXPECT_EQ(Zeph_Compare_L(a, b, n...), folded) << a << ' ' << b;
+  expect_equal<const char*>(a, b, exact, folded, n...);
   for (std::string& next : strings) {
-    EXPECT_EQ(Zeph_Compare(strings[0], strings[1], n...), exact);
-    EXPECT_EQ(Zeph_Compare_L(strings[0], strings[1], n...), folded);
+    expect_equal<std::string&>(strings[0], strings[1], exact, folded, n...);
     next += std::string(&next == strings ? "\0x" : "\0y", 2);
   }
-  EXPECT_EQ(Zeph_Compare(strings[0], strings[1], n...), exact);
-  EXPECT_EQ(Zeph_Compare_L(strings[0], strings[1], n...), folded);
+  expect_equal<std::string&>(strings[0], strings[1], exact, folded, n...);
 }
 
 void comparison(Draw& draw) {
@@ -174,8 +181,7 @@ void comparison(Draw& draw) {
     return head.size() == bound ? End::bare : End::terminated;  // nothing behind n bytes is read
   };
   const GuardedText short_a(head_a, tail(head_a)), short_b(head_b, tail(head_b));
-  EXPECT_EQ(Zeph_Compare(short_a.data(), short_b.data(), n), exact);
-  EXPECT_EQ(Zeph_Compare_L(short_a.data(), short_b.data(), n), either);
+  expect_equal<const char*>(short_a.data(), short_b.data(), exact, either, n);
 }
 
 // The byte text forms see what stands in front of the first zero byte.

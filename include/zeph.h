@@ -1236,4 +1236,139 @@ ZEPH_API const char* Zeph_Get_SysErrMsg();
 
 }  // namespace Orbane
 
+/// @cond
+// First steps in the caller. Most comparisons end at the first byte, and the others are one service
+// of the C library; the call into the shared library would be most of what they cost. So compilers
+// get these few functions to put them in the place of the call. The results are those of the
+// exported functions, which a function pointer, another language or a debugger reach as ever.
+// Define ZEPH_NO_INLINE to call the library always.
+#if defined(__ELF__) && defined(__GNUC__) && !defined(ZEPH_BUILDING) && !defined(ZEPH_NO_INLINE)
+
+#define ZEPH_SERVICE __attribute__((visibility("default"))) ZEPH_NO_PLT
+#define ZEPH_STEP inline __attribute__((__always_inline__))
+// For the compiler alone: no copy of such a function is ever made, and its address is the
+// library's.
+#define ZEPH_FIRST_STEPS extern inline __attribute__((__gnu_inline__, __always_inline__))
+
+namespace zeph {
+
+// The C library's services by names of our own, so that they are called past the linkage table,
+// too.
+extern "C" {
+ZEPH_SERVICE int zeph_strcmp(const char*, const char*) __asm__("strcmp");
+ZEPH_SERVICE int zeph_strncmp(const char*, const char*, std::size_t) __asm__("strncmp");
+ZEPH_SERVICE int zeph_strcasecmp(const char*, const char*) __asm__("strcasecmp");
+ZEPH_SERVICE int zeph_strncasecmp(const char*, const char*, std::size_t) __asm__("strncasecmp");
+ZEPH_SERVICE std::size_t zeph_strlen(const char*) __asm__("strlen");
+ZEPH_SERVICE void* zeph_memset(void*, int, std::size_t) __asm__("memset");
+}
+
+ZEPH_STEP bool first_bytes_differ(const char* a, const char* b) {
+  return __builtin_expect(*a != *b, 0);
+}
+
+// Whether no locale folds the two first bytes alike: ASCII bytes, more than a case apart.
+ZEPH_STEP bool first_bytes_never_fold_alike(const char* a, const char* b) {
+  const int x = static_cast<unsigned char>(*a), y = static_cast<unsigned char>(*b);
+  return __builtin_expect(((x ^ y) & ~0x20) != 0, 0) && (x | y) < 0x80;
+}
+
+ZEPH_STEP unsigned long long eight_bytes(const char* from) {
+  unsigned long long word;
+  __builtin_memcpy(&word, from, 8);
+  return word;
+}
+
+// Not 0 if any of the eight bytes is zero.
+ZEPH_STEP unsigned long long zero_among(unsigned long long word) {
+  return (word - 0x0101010101010101ULL) & ~word & 0x8080808080808080ULL;
+}
+
+// For 8 to 32 bytes of two Strings: 1 if they are equal, 0 if the texts differ, -1 if a zero byte
+// may end both texts in front of the difference.
+ZEPH_STEP int likeness(const char* a, const char* b, std::size_t size) {
+  const std::size_t last = size - 8, inner = size < 16 ? 0 : 8;
+  const unsigned long long words[] = {eight_bytes(a), eight_bytes(a + inner),
+                                      eight_bytes(a + last - inner), eight_bytes(a + last)};
+  const unsigned long long difference =
+      (words[0] ^ eight_bytes(b)) | (words[1] ^ eight_bytes(b + inner)) |
+      (words[2] ^ eight_bytes(b + last - inner)) | (words[3] ^ eight_bytes(b + last));
+  if (difference == 0) return 1;
+  const bool any_zero = (zero_among(words[0]) | zero_among(words[1]) | zero_among(words[2]) |
+                         zero_among(words[3])) != 0;
+  return any_zero ? -1 : 0;
+}
+
+}  // namespace zeph
+
+namespace Orbane {
+
+ZEPH_FIRST_STEPS char* Zeph_Get_Mem_Str(char* text) {
+  char* (*exported)(char*) = Zeph_Get_Mem_Str;
+  __asm__("" : "+r"(exported));  // else compilers take it for this very function
+  return __builtin_expect(text != nullptr, 1) ? text : exported(text);
+}
+
+ZEPH_FIRST_STEPS int Zeph_Get_Mem_Size(char* text) {
+  const std::size_t size = text == nullptr ? 0 : zeph::zeph_strlen(text);
+  return size < __INT_MAX__ ? static_cast<int>(size) : __INT_MAX__;
+}
+
+ZEPH_FIRST_STEPS char* Zeph_Set_Mem(char* block, int value, unsigned int count) {
+  if (count > 0) zeph::zeph_memset(block, value, count);
+  return block;
+}
+
+ZEPH_FIRST_STEPS bool Zeph_Compare(const char* a, const char* b) {
+  return !zeph::first_bytes_differ(a, b) && zeph::zeph_strcmp(a, b) == 0;
+}
+
+ZEPH_FIRST_STEPS bool Zeph_Compare(const char* a, const char* b, int n) {
+  if (__builtin_expect(n != 0, 1) && zeph::first_bytes_differ(a, b)) return false;
+  return zeph::zeph_strncmp(a, b, static_cast<std::size_t>(n)) == 0;
+}
+
+ZEPH_FIRST_STEPS bool Zeph_Compare(std::string& a, std::string& b) {
+  if (zeph::first_bytes_differ(a.c_str(), b.c_str())) return false;
+  if (a.size() == b.size() && a.size() >= 8 && a.size() <= 32) {
+    const int likeness = zeph::likeness(a.data(), b.data(), a.size());
+    if (likeness >= 0) return likeness != 0;
+  }
+  bool (*exported)(std::string&, std::string&) = Zeph_Compare;
+  __asm__("" : "+r"(exported));
+  return exported(a, b);
+}
+
+ZEPH_FIRST_STEPS bool Zeph_Compare(std::string& a, std::string& b, int n) {
+  if (n >= 0 && n <= 64) return Zeph_Compare(a.c_str(), b.c_str(), n);
+  bool (*exported)(std::string&, std::string&, int) = Zeph_Compare;
+  __asm__("" : "+r"(exported));
+  return exported(a, b, n);
+}
+
+ZEPH_FIRST_STEPS bool Zeph_Compare_L(const char* a, const char* b) {
+  return !zeph::first_bytes_never_fold_alike(a, b) && zeph::zeph_strcasecmp(a, b) == 0;
+}
+
+ZEPH_FIRST_STEPS bool Zeph_Compare_L(const char* a, const char* b, int n) {
+  if (__builtin_expect(n != 0, 1) && zeph::first_bytes_never_fold_alike(a, b)) return false;
+  return zeph::zeph_strncasecmp(a, b, static_cast<std::size_t>(n)) == 0;
+}
+
+ZEPH_FIRST_STEPS bool Zeph_Compare_L(std::string& a, std::string& b) {
+  if (a.size() < 256) return Zeph_Compare_L(a.c_str(), b.c_str());
+  bool (*exported)(std::string&, std::string&) = Zeph_Compare_L;
+  __asm__("" : "+r"(exported));
+  return exported(a, b);
+}
+
+ZEPH_FIRST_STEPS bool Zeph_Compare_L(std::string& a, std::string& b, int n) {
+  return Zeph_Compare_L(a.c_str(), b.c_str(), n);
+}
+
+}  // namespace Orbane
+
+#endif
+/// @endcond
+
 #endif  // ZEPH_H

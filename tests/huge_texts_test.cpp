@@ -6,6 +6,7 @@
 #include <climits>
 #include <cstring>
 
+#include "support/exported.h"
 #include "zeph.h"
 
 TEST(HugeTexts, AreToldAsFarAsTheResultCanTell) {
@@ -27,6 +28,7 @@ TEST(HugeTexts, AreToldAsFarAsTheResultCanTell) {
   EXPECT_EQ(Orbane::Zeph_Encrypt(text, record), 0u);
   EXPECT_STREQ(record, "former") << "longer than a record can tell";
   EXPECT_EQ(Orbane::Zeph_Get_Mem_Size(text), INT_MAX);
+  EXPECT_EQ(zeph_test::exported(Orbane::Zeph_Get_Mem_Size)(text), INT_MAX);
   text[longest_record] = 'b';
   EXPECT_EQ(Orbane::Zeph_Find_Position(text, "b"), -1) << "behind the largest int";
   munmap(pages, size + block);

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "frame/buffers_table.h"
+#include "support/exported.h"
 #include "support/refusing_heap.h"
 #include "support/stdout_capture.h"
 
@@ -19,9 +20,11 @@ const char prepare_refused[] = "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem";
 TEST(Buffers, NullReadsAsTheOneEmptyText) {
   char text[] = "ab";
   EXPECT_EQ(Zeph_Get_Mem_Str(text), text);
+  EXPECT_EQ(exported(Zeph_Get_Mem_Str)(text), text);
   EXPECT_STREQ(Zeph_Get_Mem_Str(nullptr), "");
   EXPECT_EQ(Zeph_Get_Mem_Str(nullptr), Zeph_Get_Mem_Str(nullptr));
   EXPECT_EQ(Zeph_Get_Mem_Size(nullptr), 0);
+  EXPECT_EQ(exported(Zeph_Get_Mem_Size)(nullptr), 0);
   EXPECT_TRUE(Zeph_Copy_Stack(text, static_cast<const char*>(nullptr), 3));
   EXPECT_STREQ(text, "");
   EXPECT_EQ(Zeph_UTF8_to_ANSI(static_cast<const char*>(nullptr)), "");
