@@ -139,17 +139,36 @@ void add_rows(const Ends& ends, const std::string& text, const std::string& inpu
 #endif
 }
 
+// No blank at its ends, but inside.
+std::string prose(std::size_t size) {
+  std::string text;
+  while (text.size() < size) text += "Chamber Pressure 0.75 mTorr; ";
+  text.resize(size);
+  text.back() = '.';
+  return text;
+}
+
+std::string between_blanks(std::size_t before, const std::string& text, std::size_t behind) {
+  return std::string(before, ' ') + text + std::string(behind, ' ');
+}
+
 }  // namespace
 
 void register_blanks_rows() {
-  const std::string many(524288, ' '), some(1024, ' '), prose(2048, 'x');
+  constexpr std::size_t many = 524288;
   for (const Ends* ends : {&both, &tail, &head}) {
     add_rows(*ends, "Chamber Pressure", "16 bytes, no blanks");
     add_rows(*ends, "   Chamber Pressure 0.75 mTorr    ", "34 bytes, 3 and 4 blanks");
-    add_rows(*ends, some + prose + some, "4 KiB, half of it blanks");
+    for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
+      const std::string name = size_text(size);
+      add_rows(*ends, prose(size), name + ", no blanks");
+      add_rows(*ends, between_blanks(3, prose(size - 7), 4), name + ", 3 and 4 blanks");
+      add_rows(*ends, between_blanks(size / 4, std::string(size / 2, 'x'), size / 4),
+               name + ", half of it blanks");
+    }
+    add_rows(*ends, between_blanks(many, "x", many), "1 MiB of blanks, x inside");
+    add_rows(*ends, between_blanks(many, "", many), "1 MiB of blanks");
   }
-  add_rows(both, many + "x" + many, "1 MiB of blanks, x inside");
-  add_rows(both, many + many, "1 MiB of blanks");
 }
 
 }  // namespace zeph_bench

@@ -19,7 +19,7 @@
 namespace zeph_bench {
 namespace {
 
-constexpr std::size_t room_size = 2048;
+constexpr std::size_t room_size = 2048, long_room_size = 1048577;
 
 // ---- the peers ----
 
@@ -166,32 +166,34 @@ void add_fill_row(std::size_t size) {
 }
 
 // A row of Zeph_Copy_Stack, as far as its peers have it in common.
-template <typename Value>
+template <std::size_t room_bytes, typename Value>
 Row& copy_row(const char* operation, const std::string& input, std::size_t bytes, Value value,
               char* room) {
-  constexpr int size = room_size;
+  constexpr int size = room_bytes;
   return row("buffers", operation, input, bytes)
       .outputs([room] { return take(room); })
       .zeph([room, value] { return Orbane::Zeph_Copy_Stack(room, value, size); });
 }
 
+template <std::size_t room_bytes>
 void add_text_row(std::size_t size) {
   Places& places = keep(Places());
   const char* const text = places.text(std::string(size, 'c'));
-  char* const room = places.room(room_size);
-  copy_row("Zeph_Copy_Stack", size_text(size), size, text, room)
-      .peer("snprintf %s", [text, room] { return std::snprintf(room, room_size, "%s", text) >= 0; })
-      .peer("strnlen, memcpy", [text, room] { return copy_bounded(room, text, room_size); });
+  char* const room = places.room(room_bytes);
+  copy_row<room_bytes>("Zeph_Copy_Stack", size_text(size), size, text, room)
+      .peer("snprintf %s",
+            [text, room] { return std::snprintf(room, room_bytes, "%s", text) >= 0; })
+      .peer("strnlen, memcpy", [text, room] { return copy_bounded(room, text, room_bytes); });
 }
 
 void add_number_rows(int whole, double real, const std::string& input) {
   char* const room = keep(Places()).room(room_size);
-  auto& integers = copy_row("Zeph_Copy_Stack, int", input, sizeof whole, whole, room);
+  auto& integers = copy_row<room_size>("Zeph_Copy_Stack, int", input, sizeof whole, whole, room);
   integers
       .peer("snprintf %d",
             [room, whole] { return std::snprintf(room, room_size, "%d", whole) >= 0; })
       .peer("std::to_chars", [room, whole] { return copy_number(room, room_size, whole); });
-  auto& reals = copy_row("Zeph_Copy_Stack, double", input, sizeof real, real, room);
+  auto& reals = copy_row<room_size>("Zeph_Copy_Stack, double", input, sizeof real, real, room);
   reals
       .peer("snprintf %f", [room, real] { return std::snprintf(room, room_size, "%f", real) >= 0; })
       .peer("std::to_chars", [room, real] {
@@ -214,17 +216,16 @@ void register_buffers_rows() {
       .zeph([] { return Orbane::Zeph_Version_Info(); })
       .peer("a constant", [] { return "0003-20250729"; });
   add_null_rows(nullptr, "NULL");
-  for (const std::size_t size : {8U, 32U, 64U, 4096U}) {
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
     add_null_rows(std::string(size, 'n').c_str(), size_text(size));
     add_held_row(size);
     add_overlay_row(size);
+    add_prepare_rows(size);
+    add_fill_row(size);
   }
-  for (const std::size_t size : {8U, 32U, 64U, 1024U}) {
-    add_text_row(size);
-    add_new_row(size);
-  }
-  for (const std::size_t size : {64U, 4096U}) add_prepare_rows(size);
-  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) add_fill_row(size);
+  for (const std::size_t size : {8U, 32U, 64U, 1024U}) add_text_row<room_size>(size);
+  for (const std::size_t size : {4096U, 65536U, 1048576U}) add_text_row<long_room_size>(size);
+  for (const std::size_t size : {8U, 32U, 64U, 1024U, 4096U, 65536U, 1048576U}) add_new_row(size);
   add_number_rows(7, 0.5, "7 and 0.5");
   add_number_rows(-1234567, 421.337, "-1234567 and 421.337");
 }

@@ -79,7 +79,6 @@ void add_rows(Conversion made, FromBytes convert, FromString convert_string,
   Conversion& c = keep(std::move(made));
   Row& bytes = row("codepage", c.operation, input, c.size);
   add_peers(bytes.zeph([&c, convert] { return convert(c.text); }), c);
-  if (c.room > 512) return;  // the String forms differ by the way to their text alone
   std::string& string = keep(std::string(c.text));
   Row& strings = row("codepage", std::string(c.operation) + " String", input, c.size);
   add_peers(strings.zeph([&string, convert_string] { return convert_string(string); }), c);
@@ -105,7 +104,7 @@ std::string repeated(const std::string& part, std::size_t size) {
 }  // namespace
 
 void register_codepage_rows() {
-  for (const std::size_t size : {32U, 64U, 4096U, 65536U, 1048576U}) {
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
     const struct {
       const char* kind;
       std::string ansi;
@@ -115,6 +114,7 @@ void register_codepage_rows() {
         {"ASCII", repeated("ALARM 17 set at 12:30:05.250; T1", size)},
     };
     for (const auto& input : inputs) {
+      if (input.ansi.empty()) continue;  // one part of it is longer
       // The same text in both directions; as UTF-8 the Chinese one is half as long again.
       const std::string utf8 = Orbane::Zeph_ANSI_to_UTF8(input.ansi.c_str());
       const std::string text = std::string(input.kind) + ", " + size_text(size) + " of ANSI";

@@ -1,5 +1,6 @@
 // Appending, printing and copying against what a user would write instead.
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdio>
 #include <cstdlib>
@@ -76,7 +77,7 @@ Row& add_append_row(const char* operation, Start start, Value value) {
 
 void add_append_rows(std::size_t size) {
   Places& places = keep(Places());
-  const Start start{places.text(std::string(size, 'x'), room_size), size};
+  const Start start{places.text(std::string(size, 'x'), size + room_size), size};
   const char* const more = places.text("Pressure0.75");
   add_append_row("Zeph_Cat, 12 bytes", start, more)
       .peer("strcat", on_start(start, [more](char* text) { std::strcat(text, more); }))
@@ -203,27 +204,46 @@ constexpr std::size_t alarm_room = 512;
   std::snprintf(out, alarm_room, "%s|%s", first, second);
 }
 
+// The same straight into the room, and no further than it goes: long texts fill it at once.
+[[gnu::noinline]] void join_alarms_within(char* out, const char* const* texts, std::size_t count) {
+  std::size_t used = 0;
+  const auto add = [out, &used](const char* from, std::size_t most) {
+    const std::size_t size = strnlen(from, std::min(most, alarm_room - 1 - used));
+    std::memcpy(out + used, from, size);
+    used += size;
+  };
+  for (std::size_t i = 0; i < count && used < alarm_room - 1; ++i) {
+    const auto* const bar =
+        static_cast<const char*>(std::memchr(texts[i], '|', strnlen(texts[i], alarm_room)));
+    if (i > 0) add(" ", 1);
+    add(texts[i], bar ? static_cast<std::size_t>(bar - texts[i]) : alarm_room);
+  }
+  add("|", 1);
+  for (std::size_t i = 0; i < count && used < alarm_room - 1; ++i) {
+    const char* const bar = std::strchr(texts[i], '|');
+    if (i > 0) add(" ", 1);
+    add(bar ? bar + 1 : texts[i], alarm_room);
+  }
+  out[used] = '\0';
+}
+
+using AlarmTexts = std::array<std::string, 6>;
+
 template <std::size_t count>
-void add_alarm_row() {
+void add_alarm_row(const AlarmTexts& texts, const std::string& input, std::size_t bytes) {
   struct Alarm {
     Places places;
     char* out;
     const char* texts[6];
   };
-  const char* const texts[] = {"DOOR OPEN|door of chamber 2 open",
-                               "PUMP|pump stopped",
-                               "CHAMBER 2",
-                               "GAS|gas line 4 closed",
-                               "|no operator",
-                               "STOP|process stopped"};
   Alarm& a = keep(Alarm{});
   for (std::size_t i = 0; i < count; ++i) a.texts[i] = a.places.text(texts[i]);
-  a.out = a.places.room(alarm_room);
-  const auto start = [&a, size = std::strlen(texts[0]) + 1] {
+  a.out = a.places.room(std::max(alarm_room, texts[0].size() + 1));
+  const auto start = [&a, size = texts[0].size() + 1] {
     return static_cast<char*>(std::memcpy(a.out, a.texts[0], size));
   };
-  auto& added =
-      row("compose", "Zeph_Strcat_Alarm_Append_Text", std::to_string(count) + " texts", 0);
+  auto& added = row("compose", "Zeph_Strcat_Alarm_Append_Text",
+                    std::to_string(count) + " texts" + input, count * bytes);
   added.outputs([&a] { return take(a.out); });
   added.zeph([&a, start] {
     const auto& t = a.texts;
@@ -238,24 +258,49 @@ void add_alarm_row() {
     }
     return 0;
   });
-  added.peer("append loop", [&a] { return join_alarms(a.out, a.texts, count), 0; })
-      .peer("strcat loop", [&a] { return join_alarms_by_strcat(a.out, a.texts, count), 0; });
+  added.peer("append loop", [&a] { return join_alarms(a.out, a.texts, count), 0; });
+  // This one's rooms hold no long texts.
+  if (bytes < alarm_room / 6) {
+    added.peer("strcat loop", [&a] { return join_alarms_by_strcat(a.out, a.texts, count), 0; });
+  }
+  if (bytes > 0) {
+    added.peer("bounded loop", [&a] { return join_alarms_within(a.out, a.texts, count), 0; });
+  }
+}
+
+// Two to six texts of `bytes` bytes each; 0 where they differ.
+void add_alarm_rows(const AlarmTexts& texts, const std::string& input, std::size_t bytes) {
+  add_alarm_row<2>(texts, input, bytes);
+  add_alarm_row<3>(texts, input, bytes);
+  add_alarm_row<4>(texts, input, bytes);
+  add_alarm_row<5>(texts, input, bytes);
+  add_alarm_row<6>(texts, input, bytes);
+}
+
+AlarmTexts alarms_of(std::size_t size) {
+  AlarmTexts texts;
+  const std::size_t half = size / 2;
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    texts[i] = std::string(half, "ABCDEF"[i]) + '|' + std::string(size - half - 1, "abcdef"[i]);
+  }
+  return texts;
 }
 
 }  // namespace
 
 void register_compose_rows() {
-  for (const std::size_t size : {8U, 32U, 64U}) add_append_rows(size);
-  for (const std::size_t size : {32U, 1024U}) add_print_row(size);
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) add_append_rows(size);
+  for (const std::size_t size : {8U, 32U, 64U, 1024U, 4096U, 65536U, 1048576U}) add_print_row(size);
   add_format_row("%5.2f mTorr", 64, 0.75);
   add_format_row("%-8s|%08X", 64, "slot", 0xBEEFU);
   add_format_row("%d/%d/%d %s: %.3f %s", 128, 2025, 7, 29, "Pressure", 0.75, "mTorr");
   add_format_row("%s, cut", 16, "Chamber Pressure 0.75 mTorr");
-  add_alarm_row<2>();
-  add_alarm_row<3>();
-  add_alarm_row<4>();
-  add_alarm_row<5>();
-  add_alarm_row<6>();
+  add_alarm_rows({"DOOR OPEN|door of chamber 2 open", "PUMP|pump stopped", "CHAMBER 2",
+                  "GAS|gas line 4 closed", "|no operator", "STOP|process stopped"},
+                 "", 0);
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
+    add_alarm_rows(alarms_of(size), " of " + size_text(size), size);
+  }
 }
 
 }  // namespace zeph_bench

@@ -195,8 +195,10 @@ void add_name_row(const char* text) {
 }  // namespace
 
 void register_dump_rows() {
-  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) add_dump_row(size);
-  for (const std::size_t size : {8U, 32U, 64U, 4096U}) add_string_dump_rows(size);
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
+    add_dump_row(size);
+    add_string_dump_rows(size);
+  }
   for (const char* const name : {"S6F11", "S127F255", "ALARM", "S6F", "S6F11x"}) add_name_row(name);
 }
 

@@ -151,15 +151,14 @@ std::string prose(std::size_t size) {
 }  // namespace
 
 void register_enclosures_rows() {
-  for (const std::size_t size : {8U, 32U, 64U, 4096U}) {
-    const std::string inner = prose(size - 2);
-    const std::string input = size_text(size) + ", marked";
-    add_byte_rows('"' + inner + '"', '[' + inner + ']', input);
-    if (size != 8 && size != 64) add_string_rows('"' + inner + '"', '[' + inner + ']', input);
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
+    const std::string inner = prose(size - 2), plain = prose(size);
+    const std::string marked = size_text(size) + ", marked", none = size_text(size) + ", no marks";
+    add_byte_rows('"' + inner + '"', '[' + inner + ']', marked);
+    add_string_rows('"' + inner + '"', '[' + inner + ']', marked);
+    add_byte_rows(plain, plain, none);
+    add_string_rows(plain, plain, none);
   }
-  const std::string plain = prose(32);
-  add_byte_rows(plain, plain, "32 bytes, no marks");
-  add_string_rows(plain, plain, "32 bytes, no marks");
 }
 
 }  // namespace zeph_bench

@@ -129,6 +129,20 @@ template <std::size_t count>
   return 0;
 }
 
+// For a limit below the fields: what a field has above it is dropped.
+template <std::size_t count>
+[[gnu::noinline]] int cut_by_find_within(const Cut& c, std::string* outs) {
+  const auto limit = static_cast<std::size_t>(c.limit);
+  std::size_t from = 0;
+  for (std::size_t i = 0; i + 1 < count; ++i) {
+    const std::size_t end = std::min(c.text.find(c.separator, from), c.text.size());
+    outs[i].assign(c.text, from, std::min(end - from, limit));
+    from = std::min(end + 1, c.text.size());
+  }
+  outs[count - 1].assign(c.text, from, limit);
+  return 0;
+}
+
 // ---- the rows ----
 
 // Calls `use` with the first `count` outputs as separate arguments.
@@ -186,24 +200,29 @@ void add_byte_rows(Cut& c, const std::string& input) {
   }
 }
 
+// Without the peers.
 template <std::size_t count>
-void add_string_rows(Cut& c, const std::string& input) {
+Row& add_string_row(Cut& c, const std::string& input) {
   auto& strings = row("fields",
                       std::string(c.separator == ' ' ? "Zeph_Seperate" : "Zeph_Seperate_Char") +
                           " String " + std::to_string(count),
                       input, c.text.size());
   strings.reason("a String ends at its first zero byte, which is looked for; find knows the size");
-  strings.outputs([&c] { return c.take_strings(count); })
-      .zeph([&c] {
-        return with_outputs<count>(c.strings, [&](auto&... o) {
-          if (c.separator == ' ') {
-            Orbane::Zeph_Seperate(c.text, o..., c.limit);
-          } else {
-            Orbane::Zeph_Seperate_Char(c.text, c.separator, o..., c.limit);
-          }
-        });
-      })
-      .peer("find + assign", [&c] { return cut_by_find<count>(c.text, c.separator, c.strings); })
+  return strings.outputs([&c] { return c.take_strings(count); }).zeph([&c] {
+    return with_outputs<count>(c.strings, [&](auto&... o) {
+      if (c.separator == ' ') {
+        Orbane::Zeph_Seperate(c.text, o..., c.limit);
+      } else {
+        Orbane::Zeph_Seperate_Char(c.text, c.separator, o..., c.limit);
+      }
+    });
+  });
+}
+
+template <std::size_t count>
+void add_string_rows(Cut& c, const std::string& input) {
+  auto& strings = add_string_row<count>(c, input);
+  strings.peer("find + assign", [&c] { return cut_by_find<count>(c.text, c.separator, c.strings); })
       .peer("find + substr", [&c] { return cut_by_substr<count>(c.text, c.separator, c.strings); })
       .peer("getline", [&c] { return cut_by_getline<count>(c.text, c.separator, c.strings); })
       .requests([&c] { return heap_requests(count, static_cast<std::size_t>(c.limit) + 1); });
@@ -233,8 +252,13 @@ std::string make_text(const std::vector<std::size_t>& sizes, char separator) {
   return text;
 }
 
+std::string equal_fields(std::size_t size, char separator) {
+  const std::size_t field = (size - 4) / 5;
+  return make_text({field, field, field, field, size - 4 - 4 * field}, separator);
+}
+
 template <std::size_t... counts>
-void add_rows(const std::string& text, const std::string& input, int limit) {
+void add_rows_of(const std::string& text, const std::string& input, int limit) {
   for (const char separator : {',', ' '}) {
     std::string cut_at = text;
     std::replace(cut_at.begin(), cut_at.end(), '|', separator);
@@ -244,18 +268,40 @@ void add_rows(const std::string& text, const std::string& input, int limit) {
   }
 }
 
+void add_rows(const std::string& text, const std::string& input, std::size_t limit) {
+  add_rows_of<2, 3, 4, 5>(text, input, static_cast<int>(limit));
+}
+
+template <std::size_t... counts>
+void add_rows_within(char separator, int limit, const std::string& input) {
+  Cut& c = keep(Cut(equal_fields(64, separator), separator, limit));
+  (add_byte_rows<counts>(c, input), ...);
+  (add_string_row<counts>(c, input)
+       .peer("find + assign", [&c] { return cut_by_find_within<counts>(c, c.strings); })
+       .requests([limit] { return heap_requests(counts, static_cast<std::size_t>(limit) + 1); }),
+   ...);
+}
+
 }  // namespace
 
 void register_fields_rows() {
   const auto text = make_text;
-  add_rows<2, 3, 5>(text({2, 3, 1, 3, 3}, '|'), "16 bytes", 63);
-  add_rows<2, 3, 4, 5>(text({6, 4, 6, 5, 7}, '|'), "32 bytes", 63);
-  add_rows<2, 3, 4, 5>(text({19, 6, 8, 12, 15}, '|'), "64 bytes", 255);
-  add_rows<3>(text({64}, '|'), "64 bytes, no separator", 255);
-  // Words are left out: a full middle field ends the whole cut there, which no peer does.
-  add_byte_rows<3>(keep(Cut(text({12, 12, 12, 12, 12}, ','), ',', 8)), "64 bytes, limit 8");
-  add_rows<2, 3, 5>(text({40, 60, 80, 100, 3812}, '|'), "4 KiB, long rest", 4096);
-  add_rows<2, 3, 5>(text({818, 818, 818, 818, 820}, '|'), "4 KiB, long fields", 4096);
+  add_rows(text({2, 3, 1, 3, 3}, '|'), "16 bytes", 63);  // five fields take 9 bytes and more
+  add_rows(text({6, 4, 6, 5, 7}, '|'), "32 bytes", 63);
+  add_rows(text({19, 6, 8, 12, 15}, '|'), "64 bytes", 255);
+  for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
+    add_rows(text({size}, '|'), size_text(size) + ", no separator",
+             std::max<std::size_t>(size, 255));
+  }
+  // More than two words are left out: a full middle field ends the whole cut there, which no peer
+  // does.
+  add_rows_within<2, 3, 4, 5>(',', 8, "64 bytes, limit 8");
+  add_rows_within<2>(' ', 8, "64 bytes, limit 8");
+  for (const std::size_t size : {4096U, 65536U, 1048576U}) {
+    const std::string name = size_text(size);
+    add_rows(text({40, 60, 80, 100, size - 284}, '|'), name + ", long rest", size);
+    add_rows(equal_fields(size, '|'), name + ", long fields", size);
+  }
 }
 
 }  // namespace zeph_bench

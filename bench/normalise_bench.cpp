@@ -181,19 +181,16 @@ void register_normalise_rows() {
   for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
     add_byte_row<ToLower>("Zeph_Lower", size,
                           [](const char* from, char* to) { Zeph_Lower(from, to); });
-    add_string_in_place_row<ToUpper>("copy, Zeph_Upper String", size,
-                                     [](String& text) { Zeph_Upper(text); });
-  }
-  for (const std::size_t size : {8U, 32U, 64U, 4096U}) {
     add_byte_row<ToUpper>("Zeph_Upper", size,
                           [](const char* from, char* to) { Zeph_Upper(from, to); });
     add_in_place_row<ToLower>("copy, Zeph_Lower in place", size,
                               [](char* text) { Zeph_Lower(text); });
-  }
-  add_in_place_row<ToUpper>("copy, Zeph_Upper in place", 64, [](char* text) { Zeph_Upper(text); });
-  add_string_in_place_row<ToLower>("copy, Zeph_Lower String", 64,
-                                   [](String& text) { Zeph_Lower(text); });
-  for (const std::size_t size : {64U, 4096U}) {
+    add_in_place_row<ToUpper>("copy, Zeph_Upper in place", size,
+                              [](char* text) { Zeph_Upper(text); });
+    add_string_in_place_row<ToLower>("copy, Zeph_Lower String", size,
+                                     [](String& text) { Zeph_Lower(text); });
+    add_string_in_place_row<ToUpper>("copy, Zeph_Upper String", size,
+                                     [](String& text) { Zeph_Upper(text); });
     add_string_row<ToLower>("Zeph_Lower String to String", size,
                             [](const String& from, String& to) { Zeph_Lower(from, to); });
     add_string_row<ToUpper>("Zeph_Upper String to String", size,

@@ -104,6 +104,12 @@ void add_two_row(Tail& t, const std::string& input) {
   });
 }
 
+void add_longer_rows(Tail& t, const std::string& input) {
+  add_row<3>(t, input);
+  add_row<4>(t, input);
+  add_row<5>(t, input);
+}
+
 // Five fields, the last four of which are short.
 std::string five_fields(std::size_t size, char separator) {
   const std::string tail = std::string("|12|0.75|mTorr|set");
@@ -117,18 +123,18 @@ std::string five_fields(std::size_t size, char separator) {
 void register_reverse_rows() {
   for (const char separator : {' ', ','}) {
     const std::string short_text = separator == ' ' ? "xxxxxxxx abc def" : "xxxxxxxx,abc,def";
-    add_two_row(keep(Tail(short_text, separator)), "16 bytes");
-    for (const std::size_t size : {32U, 64U, 4096U, 65536U}) {
+    Tail& short_tail = keep(Tail(short_text, separator));
+    add_two_row(short_tail, "16 bytes");
+    add_longer_rows(short_tail, "16 bytes");
+    for (const std::size_t size : {32U, 64U, 4096U, 65536U, 1048576U}) {
       Tail& t = keep(Tail(five_fields(size, separator), separator));
       add_two_row(t, size_text(size));
-      if (size > 4096) continue;
-      add_row<3>(t, size_text(size));
-      add_row<4>(t, size_text(size));
-      add_row<5>(t, size_text(size));
+      add_longer_rows(t, size_text(size));
     }
-    for (const std::size_t size : {64U, 4096U}) {
+    for (const std::size_t size : {8U, 32U, 64U, 4096U, 65536U, 1048576U}) {
       Tail& t = keep(Tail(std::string(size, 'x'), separator));
       add_row<2>(t, size_text(size) + ", no separator");
+      add_longer_rows(t, size_text(size) + ", no separator");
     }
   }
 }

@@ -77,7 +77,8 @@ std::string remove_by_stack(const std::string& text, std::string_view pair) {
   *end = '\0';
 }
 
-// In a text where no removal makes a new occurrence.
+// In a text where no removal makes a new occurrence. The rest moves at each one, so that the cost
+// grows with the square of the length where there are many.
 [[gnu::noinline]] void remove_by_find(std::string& text, const std::string& pattern) {
   for (std::size_t at = 0; (at = text.find(pattern, at)) != std::string::npos;) {
     text.erase(at, pattern.size());
@@ -142,8 +143,9 @@ void add_string_replace_row(const Case& c) {
 #endif
 }
 
-// `nested`: the removals make new occurrences.
-void add_remove_rows(const Case& c, bool nested) {
+// `searches`: the peers that search for the whole pattern take part. They cannot where the removals
+// make new occurrences, and they take too long for many of them in a long text.
+void add_remove_rows(const Case& c, bool searches) {
   const ByteCopy bytes = byte_copy(c.text);
   const char* const pattern = c.from.c_str();
   const char* const reason = "the stack is written for patterns of two bytes";
@@ -160,13 +162,14 @@ void add_remove_rows(const Case& c, bool nested) {
       .zeph(on_a_copy(copy, [&c](std::string& text) { Orbane::Zeph_Remove(text, c.from); }))
       .peer("stack of bytes",
             [&c, &copy] { return copy.room = remove_by_stack(c.text, c.from), 0; });
-  if (nested) return;
+  if (!searches) return;
   in_bytes.peer("strstr, memmove",
                 on_a_copy(bytes, [pattern](char* text) { remove_by_strstr(text, pattern); }));
   strings.peer("find, erase",
                on_a_copy(copy, [&c](std::string& text) { remove_by_find(text, c.from); }));
 }
 
+template <char sought>
 void add_byte_rows(const std::string& text, const std::string& input) {
   const char* const reason =
       "a call asks where the first one stands, which short texts do not repay";
@@ -175,51 +178,61 @@ void add_byte_rows(const std::string& text, const std::string& input) {
   row("rewrite", "Zeph_Replace a byte, byte text", input, text.size())
       .reason(reason)
       .outputs(changed(bytes))
-      .zeph(on_a_copy(bytes, [](char* work) { Orbane::Zeph_Replace(work, 'b', 'c'); }))
+      .zeph(on_a_copy(bytes, [](char* work) { Orbane::Zeph_Replace(work, sought, 'c'); }))
       .peer("strlen, std::replace", on_a_copy(bytes, [](char* work) {
-              std::replace(work, work + std::strlen(work), 'b', 'c');
+              std::replace(work, work + std::strlen(work), sought, 'c');
             }));
   row("rewrite", "Zeph_Replace a byte", input, text.size())
       .reason(reason)
       .outputs(changed(copy))
-      .zeph(on_a_copy(copy, [](std::string& work) { Orbane::Zeph_Replace(work, 'b', 'c'); }))
+      .zeph(on_a_copy(copy, [](std::string& work) { Orbane::Zeph_Replace(work, sought, 'c'); }))
       .peer("std::replace", on_a_copy(copy, [](std::string& work) {
-              std::replace(work.begin(), work.end(), 'b', 'c');
+              std::replace(work.begin(), work.end(), sought, 'c');
             }));
   row("rewrite", "Zeph_Remove a byte", input, text.size())
       .reason(reason)
       .outputs(changed(copy))
-      .zeph(on_a_copy(copy, [](std::string& work) { Orbane::Zeph_Remove(work, 'b'); }))
+      .zeph(on_a_copy(copy, [](std::string& work) { Orbane::Zeph_Remove(work, sought); }))
       .peer("std::remove", on_a_copy(copy, [](std::string& work) {
-              work.erase(std::remove(work.begin(), work.end(), 'b'), work.end());
+              work.erase(std::remove(work.begin(), work.end(), sought), work.end());
             }));
 }
 
+// One pattern in one text, to be replaced and to be removed. `searches` as for the removal.
+void add_piece_rows(const std::string& text, const std::string& from, const std::string& to,
+                    const std::string& input, bool searches) {
+  const Case& replaced = keep(Case{text, from, to, input + ", " + from + " -> " + to});
+  add_byte_replace_row(replaced);
+  add_string_replace_row(replaced);
+  add_remove_rows(keep(Case{text, from, "", input + ", " + from}), searches);
+}
+
+// The first 8 bytes of the longer ones do not have what is sought.
 std::string prose(std::size_t size) {
-  return repeat("Chamber Pressure 0.75 mTorr; ", size);
+  return size == 8 ? "Pressure" : repeat("Chamber Pressure 0.75 mTorr; ", size);
 }
 
 }  // namespace
 
 void register_rewrite_rows() {
-  for (const std::size_t size : {8U, 32U, 64U, 1024U, 1048576U}) {
+  for (const std::size_t size : {8U, 32U, 64U, 1024U, 4096U, 65536U, 1048576U}) {
     const std::string name = size_text(size), pairs = repeat("ab", size);
-    const Case& shorter = keep(Case{pairs, "ab", "c", name + " abab.., ab -> c"});
-    add_byte_replace_row(shorter);
-    add_string_replace_row(shorter);
     const std::string nested = std::string(size / 2, 'a') + std::string(size / 2, 'b');
-    add_remove_rows(keep(Case{nested, "ab", "", name + " aa..bb.., ab"}), true);
-    add_byte_rows(pairs, name + " abab..");
-  }
-  for (const std::size_t size : {64U, 4096U}) {
-    const std::string name = size_text(size), text = prose(size);
-    const Case& longer = keep(Case{text, "ss", "<s>", name + " of prose, ss -> <s>"});
-    add_byte_replace_row(longer);
-    add_string_replace_row(longer);
-    const Case& none = keep(Case{text, "#!", "-", name + " of prose, none"});
+    // Many removals that move the rest take milliseconds for 64 KiB and seconds for 1 MiB.
+    const bool one_by_one = size <= 4096;
+    add_piece_rows(pairs, "ab", "c", name + " abab..", one_by_one);
+    add_piece_rows(nested, "ab", "c", name + " aa..bb..", false);
+    add_byte_rows<'b'>(pairs, name + " abab..");
+    add_byte_rows<'b'>(nested, name + " aa..bb..");
+    if (size == 1024) continue;  // an extra size of the pairs alone
+    const std::string text = prose(size), in_prose = name + " of prose";
+    add_piece_rows(text, "ss", "<s>", in_prose, one_by_one);
+    add_byte_rows<'s'>(text, in_prose + ", s");
+    const Case& none = keep(Case{text, "#!", "-", in_prose + ", none"});
     add_byte_replace_row(none);
     add_string_replace_row(none);
-    add_remove_rows(none, false);
+    add_remove_rows(none, true);
+    add_byte_rows<'#'>(text, in_prose + ", none");
   }
 }
 
