@@ -31,12 +31,12 @@ check_cxx_source_compiles("
 if(NOT ZEPH_PORTABLE)
   if(ZEPH_FOUND_AVX2)
     list(APPEND ZEPH_SCAN_SOURCES scan/ascii_fold_avx2.cpp scan/copy_text_avx2.cpp scan/find_pair_avx2.cpp
-      scan/hex_pairs_avx2.cpp scan/last_byte_avx2.cpp scan/remove_byte_avx2.cpp)
+      scan/hex_pairs_avx2.cpp scan/last_byte_avx2.cpp scan/remove_byte_avx2.cpp scan/same_text_avx2.cpp)
     list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_AVX2)
   endif()
   if(ZEPH_FOUND_AVX512)
     list(APPEND ZEPH_SCAN_SOURCES scan/ascii_fold_avx512.cpp scan/copy_text_avx512.cpp
-      scan/find_needle_avx512.cpp scan/find_pair_avx512.cpp)
+      scan/find_needle_avx512.cpp scan/find_pair_avx512.cpp scan/same_text_avx512.cpp)
     list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_AVX512)
   endif()
   if(ZEPH_FOUND_CTYPE_TABLES)

@@ -1279,24 +1279,23 @@ ZEPH_STEP unsigned long long eight_bytes(const char* from) {
   return word;
 }
 
-// Not 0 if any of the eight bytes is zero.
+// Has the highest bit of some byte if any of the eight bytes is zero, and then alone.
 ZEPH_STEP unsigned long long zero_among(unsigned long long word) {
-  return (word - 0x0101010101010101ULL) & ~word & 0x8080808080808080ULL;
+  return (word - 0x0101010101010101ULL) & ~word;
 }
 
-// For 8 to 32 bytes of two Strings: 1 if they are equal, 0 if the texts differ, -1 if a zero byte
+// For 16 to 32 bytes of two Strings: 1 if they are equal, 0 if the texts differ, -1 if a zero byte
 // may end both texts in front of the difference.
 ZEPH_STEP int likeness(const char* a, const char* b, std::size_t size) {
-  const std::size_t last = size - 8, inner = size < 16 ? 0 : 8;
-  const unsigned long long words[] = {eight_bytes(a), eight_bytes(a + inner),
-                                      eight_bytes(a + last - inner), eight_bytes(a + last)};
-  const unsigned long long difference =
-      (words[0] ^ eight_bytes(b)) | (words[1] ^ eight_bytes(b + inner)) |
-      (words[2] ^ eight_bytes(b + last - inner)) | (words[3] ^ eight_bytes(b + last));
+  const std::size_t places[] = {0, 8, size - 16, size - 8};
+  unsigned long long difference = 0, zeros = 0;
+  for (const std::size_t at : places) {
+    const unsigned long long word = eight_bytes(a + at);
+    difference |= word ^ eight_bytes(b + at);
+    zeros |= zero_among(word);
+  }
   if (difference == 0) return 1;
-  const bool any_zero = (zero_among(words[0]) | zero_among(words[1]) | zero_among(words[2]) |
-                         zero_among(words[3])) != 0;
-  return any_zero ? -1 : 0;
+  return __builtin_expect((zeros & 0x8080808080808080ULL) != 0, 0) ? -1 : 0;
 }
 
 }  // namespace zeph
@@ -1330,7 +1329,8 @@ ZEPH_FIRST_STEPS bool Zeph_Compare(const char* a, const char* b, int n) {
 
 ZEPH_FIRST_STEPS bool Zeph_Compare(std::string& a, std::string& b) {
   if (zeph::first_bytes_differ(a.c_str(), b.c_str())) return false;
-  if (a.size() == b.size() && a.size() >= 8 && a.size() <= 32) {
+  if (a.size() < 16) return zeph::zeph_strcmp(a.c_str(), b.c_str()) == 0;
+  if (a.size() == b.size() && a.size() <= 32) {
     const int likeness = zeph::likeness(a.data(), b.data(), a.size());
     if (likeness >= 0) return likeness != 0;
   }
@@ -1363,7 +1363,10 @@ ZEPH_FIRST_STEPS bool Zeph_Compare_L(std::string& a, std::string& b) {
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare_L(std::string& a, std::string& b, int n) {
-  return Zeph_Compare_L(a.c_str(), b.c_str(), n);
+  if (n >= 0 && n < 256) return Zeph_Compare_L(a.c_str(), b.c_str(), n);
+  bool (*exported)(std::string&, std::string&, int) = Zeph_Compare_L;
+  __asm__("" : "+r"(exported));
+  return exported(a, b, n);
 }
 
 }  // namespace Orbane

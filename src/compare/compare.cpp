@@ -1,13 +1,13 @@
 // Equality of two texts. Where only a zero byte tells the end, the runtime's own comparisons do it,
-// which are as wide as the processor allows and carry the locale's fold; Strings of one size are
-// compared as a whole first. A negative count turns into the largest one.
+// which are as wide as the processor allows and carry the locale's fold; of Strings what they have
+// in common is passed first. A negative count turns into the largest one.
 #include <algorithm>
 #include <cstring>
 
 #include "frame/locale_fold.h"
-#include "scan/ascii_fold.h"
 #include "scan/byte_mask.h"
 #include "scan/same_bytes.h"
+#include "scan/same_text.h"
 #include "zeph.h"
 
 #if __has_include(<strings.h>)
@@ -49,16 +49,15 @@ bool equal_folded_prefix(const char* a, const char* b, std::size_t limit) {
   return strncasecmp(a, b, limit) == 0;
 }
 
-// Strings that are long, of two sizes, or short ones that are known to differ: these hold the same
-// text only if a zero byte ends both before they do.
+// Where the texts of two Strings are told apart: what they have in common in front of that is
+// passed in wide steps. None of the two ends there, so that what the service says holds for the
+// whole.
 template <typename EqualTexts>
 [[gnu::noinline]] bool equal_far(const std::string& a, const std::string& b, std::size_t size_a,
                                  std::size_t size_b, EqualTexts equal_texts) {
-  if (size_a == size_b) {
-    if (size_a <= short_range && byte_mask(a.data(), size_a, '\0') == 0) return false;
-    if (size_a > short_range && std::memcmp(a.data(), b.data(), size_a) == 0) return true;
-  }
-  return equal_texts(a.c_str(), b.c_str());
+  if (size_a == size_b && size_a <= short_range && byte_mask(a.data(), size_a, '\0') == 0)
+    return false;
+  return equal_texts(same_text(a.data(), b.data(), std::min(size_a, size_b)));
 }
 
 // The bytes up to the sizes count, of which equal_texts() knows. Short Strings take no call.
@@ -74,33 +73,50 @@ inline bool equal(const std::string& a, const std::string& b, std::size_t size_a
 
 bool equal(const std::string& a, const std::string& b) {
   if (first_bytes_differ(a.c_str(), b.c_str())) return false;
-  const auto equal_texts = [](const char* x, const char* y) { return std::strcmp(x, y) == 0; };
-  return equal(a, b, a.size(), b.size(), equal_texts);
+  return equal(a, b, a.size(), b.size(), [&a, &b](std::size_t passed) {
+    return std::strcmp(a.c_str() + passed, b.c_str() + passed) == 0;
+  });
 }
 
 bool equal_prefix(const std::string& a, const std::string& b, std::size_t limit) {
   if (__builtin_expect(limit != 0, 1) && first_bytes_differ(a.c_str(), b.c_str())) return false;
-  const auto equal_texts = [limit](const char* x, const char* y) {
-    return std::strncmp(x, y, limit) == 0;
-  };
-  return equal(a, b, std::min(a.size(), limit), std::min(b.size(), limit), equal_texts);
+  const std::size_t size_a = std::min(a.size(), limit), size_b = std::min(b.size(), limit);
+  return equal(a, b, size_a, size_b, [&a, &b, limit](std::size_t passed) {
+    return std::strncmp(a.c_str() + passed, b.c_str() + passed, limit - passed) == 0;
+  });
 }
 
 // From here on the widest instructions make up for the question of the locale.
 constexpr std::size_t long_text = 256;
 
-[[gnu::noinline]] bool long_equal_folded(const std::string& a, const std::string& b) {
-  return (locale_folds_ascii(LetterCase::lower) &&
-          ascii_folds_alike(a.data(), b.data(), a.size())) ||
-         strcasecmp(a.c_str(), b.c_str()) == 0;
+template <typename EqualTexts>
+[[gnu::noinline]] bool long_equal_folded(const std::string& a, const std::string& b,
+                                         std::size_t size, EqualTexts equal_texts) {
+  const bool ascii = locale_folds_ascii(LetterCase::lower);
+  return equal_texts(ascii ? same_ascii_text(a.data(), b.data(), size) : 0);
+}
+
+// Short texts, which are most, go straight on.
+template <typename EqualTexts>
+bool equal_folded(const std::string& a, const std::string& b, std::size_t limit,
+                  EqualTexts equal_texts) {
+  const std::size_t size = std::min({a.size(), b.size(), limit});
+  if (__builtin_expect(size >= long_text, 0)) return long_equal_folded(a, b, size, equal_texts);
+  return equal_texts(0);
 }
 
 bool equal_folded(const std::string& a, const std::string& b) {
   if (first_bytes_never_fold_alike(a.c_str(), b.c_str())) return false;
-  // Short texts, which are most, go straight on.
-  if (__builtin_expect(a.size() >= long_text, 0) && a.size() == b.size())
-    return long_equal_folded(a, b);
-  return strcasecmp(a.c_str(), b.c_str()) == 0;
+  return equal_folded(a, b, a.size(), [&a, &b](std::size_t passed) {
+    return strcasecmp(a.c_str() + passed, b.c_str() + passed) == 0;
+  });
+}
+
+bool equal_folded_prefix(const std::string& a, const std::string& b, std::size_t limit) {
+  if (limit != 0 && first_bytes_never_fold_alike(a.c_str(), b.c_str())) return false;
+  return equal_folded(a, b, limit, [&a, &b, limit](std::size_t passed) {
+    return strncasecmp(a.c_str() + passed, b.c_str() + passed, limit - passed) == 0;
+  });
 }
 
 }  // namespace
@@ -137,7 +153,7 @@ bool Zeph_Compare_L(const char* a, const char* b, int n) {
 }
 
 bool Zeph_Compare_L(std::string& a, std::string& b, int n) {
-  return zeph::equal_folded_prefix(a.c_str(), b.c_str(), static_cast<std::size_t>(n));
+  return zeph::equal_folded_prefix(a, b, static_cast<std::size_t>(n));
 }
 
 }  // namespace Orbane

@@ -34,13 +34,6 @@ void put_ascii_fold_portable(LetterCase to, char* out, const char* from, std::si
 void put_ascii_fold_avx2(LetterCase to, char* out, const char* from, std::size_t size);
 void put_ascii_fold_avx512(LetterCase to, char* out, const char* from, std::size_t size);
 
-// Whether two ranges of one size are the same but for the case of ASCII letters.
-bool ascii_folds_alike(const char* a, const char* b, std::size_t size);
-bool ascii_folds_alike_avx512(const char* a, const char* b, std::size_t size);
-
-// How many bytes are, in steps of 128, in front of the first step that is not. Needs AVX2.
-std::size_t ascii_alike_128_avx2(const char* a, const char* b, std::size_t size);
-
 #ifdef ZEPH_SCAN_SSE2
 
 // The first 4, 8 or 16 of the bytes.

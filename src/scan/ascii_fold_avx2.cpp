@@ -40,27 +40,4 @@ __attribute__((target("avx2"))) void put_ascii_fold_avx2(LetterCase to, char* ou
   Fold32::store(out + size - 32, tail1);
 }
 
-__attribute__((target("avx2"))) std::size_t ascii_alike_128_avx2(const char* a, const char* b,
-                                                                 std::size_t size) {
-  const __m256i bit = _mm256_set1_epi8(0x20);
-  const __m256i shift = _mm256_set1_epi8(static_cast<char>('a' + 128));
-  const __m256i last = _mm256_set1_epi8(-128 + 26);
-  std::size_t i = 0;
-  // Bytes may differ in the bit of the case where they are letters.
-  const auto differing = [&](std::size_t at) __attribute__((target("avx2"))) {
-    const __m256i x = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(a + at));
-    const __m256i y = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(b + at));
-    const __m256i letters =
-        _mm256_cmpgt_epi8(last, _mm256_sub_epi8(_mm256_or_si256(x, bit), shift));
-    return _mm256_andnot_si256(_mm256_and_si256(letters, bit), _mm256_xor_si256(x, y));
-  };
-  for (; size - i >= 128; i += 128) {
-    const __m256i front = _mm256_or_si256(differing(i), differing(i + 32));
-    const __m256i back = _mm256_or_si256(differing(i + 64), differing(i + 96));
-    const __m256i any = _mm256_or_si256(front, back);
-    if (!_mm256_testz_si256(any, any)) break;
-  }
-  return i;
-}
-
 }  // namespace zeph

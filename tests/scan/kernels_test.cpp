@@ -22,6 +22,7 @@
 #include "scan/move_bytes.h"
 #include "scan/other_byte.h"
 #include "scan/remove_byte.h"
+#include "scan/same_text.h"
 #include "scan/wide.h"
 #include "support/draw.h"
 #include "support/fold.h"
@@ -80,15 +81,6 @@ TEST(Kernels, FoldsAndHexPairs) {
       ASSERT_EQ(std::string(out.data(), 3 * size), pairs);
     };
     expect_fold(zeph::put_ascii_fold);
-    std::string other = bytes;
-    for (char& byte : other) byte = draw.yes() ? zeph::ascii_fold(to, byte) : byte;
-    const GuardedText twin(other, End::bare);
-    ASSERT_TRUE(zeph::ascii_folds_alike(in.data(), twin.data(), size));
-    [[maybe_unused]] const std::size_t differing = draw.below(size + 1);
-    if (differing < size) {
-      twin.data()[differing] ^= '\x04';
-      ASSERT_FALSE(zeph::ascii_folds_alike(in.data(), twin.data(), size));
-    }
     expect_fold(zeph::put_ascii_fold_portable);
     expect_fold(zeph::put_ascii_fold_baseline);
     expect_pairs(zeph::put_hex_pairs);
@@ -96,10 +88,36 @@ TEST(Kernels, FoldsAndHexPairs) {
 #ifdef ZEPH_HAS_AVX2
     if (has_avx2 && size >= 8) expect_pairs(zeph::put_hex_pairs_avx2);
     if (!has_avx2 || size < 64) return;
-    ASSERT_EQ(zeph::ascii_alike_128_avx2(in.data(), in.data(), size), size / 128 * 128);
-    ASSERT_LE(zeph::ascii_alike_128_avx2(in.data(), twin.data(), size), differing);
     zeph::put_ascii_fold_avx2(to, in.data(), in.data(), size);
     ASSERT_EQ(std::string(in.data(), size), fold) << "in its place";
+#endif
+  });
+}
+
+// How far two texts are known to be alike: up to their difference or end, less than a step short of
+// it.
+TEST(Kernels, SameText) {
+  each_size([](Draw& draw, std::size_t size) {
+    std::string text = draw.text(0, "AZaz@[`{\xC4\xE4"), other = text;
+    const bool folded = draw.yes();
+    for (char& byte : other) byte = folded && draw.yes() ? lower(byte) : byte;
+    std::size_t end = draw.below(2 * size + 1);
+    if (end < size) other[end] = draw.yes() ? '\0' : static_cast<char>(other[end] ^ 4);
+    if (end < size && draw.yes()) text[end] = other[end] = '\0';
+    end = std::min(end, size);
+    const GuardedText a(text, End::bare), b(other, End::bare);
+    [[maybe_unused]] const auto expect = [&](auto same, std::size_t step) {
+      const std::size_t known = same(a.data(), b.data(), size);
+      ASSERT_LE(known, end);
+      ASSERT_LT(end - known, step);
+    };
+#ifdef ZEPH_HAS_AVX2
+    if (has_avx2) expect(folded ? zeph::same_ascii_text_avx2 : zeph::same_text_avx2, 128);
+#endif
+#ifdef ZEPH_HAS_AVX512
+    if (!zeph::has_avx512()) return;
+    expect(folded ? zeph::same_ascii_text_avx512 : zeph::same_text_avx512, 256);
+    expect(folded ? zeph::same_ascii_text : zeph::same_text, 256);
 #endif
   });
 }
