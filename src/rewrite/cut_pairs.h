@@ -57,14 +57,13 @@ inline std::size_t cut_pairs(Occurrences& occurrences, const GapText& text) {
     if (*from == '\0') return;
     if (seen == near) return cut_far_pairs(text, from, from, pair);
   }
-  // The gap, from `top` to `from`: a pair falls into it, and those that stand around it then; what
-  // follows comes down to its front, up to the next pair.
+  // From the first pair on the bytes go to the top of what is left of the text, and the second of a
+  // pair takes its first away from there.
   char* top = from;
-  for (const char* const begin = from; from - begin < near;) {
-    for (from += 2; top != text && top[-1] == first && *from == second; ++from) --top;
-    for (; from - begin < near && (from[0] != first || from[1] != second); ++from, ++top) {
-      if ((*top = *from) == '\0') return;
-    }
+  const char* const far = from + near;
+  for (from += 2; from < far; ++from, ++top) {
+    for (; *from == second && top != text && top[-1] == first; ++from) --top;
+    if ((*top = *from) == '\0') return;
   }
   cut_far_pairs(text, top, from, pair);
 }
