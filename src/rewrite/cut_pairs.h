@@ -38,6 +38,21 @@ inline std::size_t cut_pairs(Occurrences& occurrences, const GapText& text) {
   return gap.done;
 }
 
+// The same for a few bytes, in one walk: the second of a pair takes its first away from the end of
+// what is kept.
+inline std::size_t cut_few_pairs(char* text, std::size_t size, const char* pair) {
+  const char first = pair[0], second = pair[1];
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < size; ++i) {
+    if (text[i] == second && kept != 0 && text[kept - 1] == first) {
+      --kept;
+    } else {
+      text[kept++] = text[i];
+    }
+  }
+  return kept;
+}
+
 // The rest of a byte text, where no pair is in front of the gap from `top` to `from`.
 [[gnu::noinline]] inline void cut_far_pairs(char* text, const char* top, const char* from,
                                             const char* pair) {

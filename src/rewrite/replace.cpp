@@ -253,6 +253,22 @@ void replace_in_string(std::string& text, View pattern, const std::string& repla
   }
 }
 
+// Apart, so that a short text needs no room on the stack.
+[[gnu::noinline]] void remove_pattern(std::string& text, View pattern) {
+  Occurrences occurrences(text, pattern);
+  if (!occurrences.any()) return;
+  text.resize(shrink_again(occurrences, text.data(), text.size(), {}));
+}
+
+void remove_from_string(std::string& text, View pattern) {
+  constexpr std::size_t few = 16;
+  if (pattern.size() == 2 && text.size() <= few) {
+    text.resize(cut_few_pairs(text.data(), text.size(), pattern.data()));
+  } else if (!pattern.empty()) {
+    remove_pattern(text, pattern);
+  }
+}
+
 }  // namespace
 }  // namespace zeph
 
@@ -276,10 +292,7 @@ void Zeph_Replace(char* text, const char* pattern, const char* replacement) {
 }
 
 void Zeph_Remove(std::string& text, const std::string& pattern) {
-  if (pattern.empty()) return;
-  zeph::Occurrences occurrences(text, pattern);
-  if (!occurrences.any()) return;
-  text.resize(zeph::shrink_again(occurrences, text.data(), text.size(), {}));
+  zeph::remove_from_string(text, pattern);
 }
 
 void Zeph_Remove(char* text, const char* pattern) {
