@@ -125,9 +125,42 @@ struct X86Words {
   }
 };
 
+// The last of four words in all columns, substituted as above.
+[[gnu::target("aes")]] inline __m128i substituted_last(__m128i words) {
+  return _mm_aesenclast_si128(_mm_shuffle_epi32(words, 0xFF), _mm_setzero_si128());
+}
+
+// The same for the first word of a turn: its bytes rotated, and the turn's constant.
+[[gnu::target("aes")]] inline __m128i turned_last(__m128i words, int turn) {
+  const __m128i last = substituted_last(words);
+  const __m128i rotated = _mm_or_si128(_mm_srli_epi32(last, 8), _mm_slli_epi32(last, 24));
+  return _mm_xor_si128(rotated, _mm_set1_epi32(static_cast<int>(Rcon[turn])));
+}
+
+// Four words from those a key's length before: each takes in `mixed` and all in front of it.
+[[gnu::target("aes")]] inline __m128i next_words(__m128i words, __m128i mixed) {
+  words = _mm_xor_si128(words, _mm_slli_si128(words, 4));
+  words = _mm_xor_si128(words, _mm_slli_si128(words, 8));
+  return _mm_xor_si128(words, mixed);
+}
+
+// A key of eight words, four at once: they stay in two registers from the first to the last.
+[[gnu::target("aes")]] void expand_eight_words(AesContext& context) {
+  __m128i front = load_bytes(context.key), back = load_bytes(context.key + 16);
+  unsigned char* out = context.w;
+  for (int turn = 1; turn <= 7; ++turn, out += 32) {
+    store_bytes(out, front);
+    store_bytes(out + 16, back);
+    front = next_words(front, turned_last(back, turn));
+    back = next_words(back, substituted_last(front));
+  }
+  store_bytes(out, front);
+}
+
 }  // namespace
 
 [[gnu::target("aes")]] void expand_key_x86(AesContext& context) {
+  if (context.Nk == 8) return expand_eight_words(context);
   context.ExpandKey<X86Words>();
 }
 

@@ -53,10 +53,27 @@ bool has_hex_prefix(const char* body, End... end) {
   return byte_at(body, end...) == '0' && (byte_at(body + 1, end...) | 0x20) == 'x';
 }
 
-// The 8-bit grammar: decimal digits alone.
+// The `count` bytes at `text`, one to three, as digits; declines if one of them is none. How many
+// they are takes no branch, which would be guessed wrong for every other text.
+inline bool read_few_digits(const char* text, std::size_t count, unsigned int& word) {
+  const bool has_tens = count > 1, has_hundreds = count > 2;
+  const char* const last = text + count - 1;
+  const unsigned int ones = digit_of(*last), tens = digit_of(*(last - has_tens));
+  const unsigned int hundreds = digit_of(*text);
+  word = ones + (has_tens ? tens * 10 : 0) + (has_hundreds ? hundreds * 100 : 0);
+  return ((ones > 9) | (tens > 9) | (hundreds > 9)) == 0;
+}
+
+// The 8-bit grammar: decimal digits alone. Nearly all numbers within 8 bits have up to three.
 Integer read_small_integer(const char* text) {
+  constexpr std::size_t few = 3;
   const bool negative = *text == '-';
+  const std::size_t count = strnlen(text, negative + few + 1) - negative;
   unsigned int word = 0;
+  if (count - 1 < few && read_few_digits(text + negative, count, word)) {
+    return whole_integer(word, negative);
+  }
+  word = 0;
   text = append_digits(text + negative, word);
   return *text == '\0' ? whole_integer(word, negative) : Integer{word, false};
 }

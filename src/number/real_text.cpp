@@ -125,7 +125,16 @@ inline bool read_any_real(const Slice& slice, double& value) {
 
 // Whether a byte that is no digit stands in no number, nor in what the test takes for one.
 inline bool is_foreign(char byte) {
-  return std::strchr(".eE+-", byte) == nullptr;
+  switch (byte) {
+    case '.':
+    case 'e':
+    case 'E':
+    case '+':
+    case '-':
+      return false;
+    default:
+      return true;
+  }
 }
 
 // Whether the digits of a text up to their end, a point among them or not, surely fit a word.
@@ -142,10 +151,9 @@ inline bool read_behind_digits(const Text& text, const char* end, std::int64_t e
   if (!fits_word(text.begin, end, has_point)) return read_any_real(text, value);
   end = text.exponent_end(end, exponent);
   const char behind = text.at(end);
-  if (is_foreign(behind)) return false;
+  if (behind != '\0') return is_foreign(behind) ? false : read_any_real(text, value);
   double number;
-  const bool settled =
-      behind == '\0' && (scale_small(word, exponent, number) || scale_wide(word, exponent, number));
+  const bool settled = scale_small(word, exponent, number) || scale_wide(word, exponent, number);
   return settled ? store_real(text, number, has_point, value) : read_any_real(text, value);
 }
 

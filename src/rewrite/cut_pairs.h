@@ -38,6 +38,21 @@ inline std::size_t cut_pairs(Occurrences& occurrences, const GapText& text) {
   return gap.done;
 }
 
+// The same for a few bytes, in one walk: the second of a pair takes its first away from the end of
+// what is kept.
+inline std::size_t cut_few_pairs(char* text, std::size_t size, const char* pair) {
+  const char first = pair[0], second = pair[1];
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < size; ++i) {
+    if (text[i] == second && kept != 0 && text[kept - 1] == first) {
+      --kept;
+    } else {
+      text[kept++] = text[i];
+    }
+  }
+  return kept;
+}
+
 // The rest of a byte text, where no pair is in front of the gap from `top` to `from`.
 [[gnu::noinline]] inline void cut_far_pairs(char* text, const char* top, const char* from,
                                             const char* pair) {
@@ -57,14 +72,13 @@ inline std::size_t cut_pairs(Occurrences& occurrences, const GapText& text) {
     if (*from == '\0') return;
     if (seen == near) return cut_far_pairs(text, from, from, pair);
   }
-  // The gap, from `top` to `from`: a pair falls into it, and those that stand around it then; what
-  // follows comes down to its front, up to the next pair.
+  // From the first pair on the bytes go to the top of what is left of the text, and the second of a
+  // pair takes its first away from there.
   char* top = from;
-  for (const char* const begin = from; from - begin < near;) {
-    for (from += 2; top != text && top[-1] == first && *from == second; ++from) --top;
-    for (; from - begin < near && (from[0] != first || from[1] != second); ++from, ++top) {
-      if ((*top = *from) == '\0') return;
-    }
+  const char* const far = from + near;
+  for (from += 2; from < far; ++from, ++top) {
+    for (; *from == second && top != text && top[-1] == first; ++from) --top;
+    if ((*top = *from) == '\0') return;
   }
   cut_far_pairs(text, top, from, pair);
 }

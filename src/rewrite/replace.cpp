@@ -31,8 +31,9 @@ using View = std::string_view;
 void replace_bytes(char* text, std::size_t size, char find, char replacement) {
   constexpr std::size_t short_text = 16;
   if (size > short_text) return replace_many_bytes(text, size, find, replacement);
-  for (char* const end = text + size; text != end; ++text) {
-    if (*text == find) *text = replacement;
+#pragma GCC unroll 4
+  for (std::size_t i = 0; i < size; ++i) {
+    if (text[i] == find) text[i] = replacement;
   }
 }
 
@@ -253,6 +254,22 @@ void replace_in_string(std::string& text, View pattern, const std::string& repla
   }
 }
 
+// Apart, so that a short text needs no room on the stack.
+[[gnu::noinline]] void remove_pattern(std::string& text, View pattern) {
+  Occurrences occurrences(text, pattern);
+  if (!occurrences.any()) return;
+  text.resize(shrink_again(occurrences, text.data(), text.size(), {}));
+}
+
+void remove_from_string(std::string& text, View pattern) {
+  constexpr std::size_t few = 16;
+  if (pattern.size() == 2 && text.size() <= few) {
+    text.resize(cut_few_pairs(text.data(), text.size(), pattern.data()));
+  } else if (!pattern.empty()) {
+    remove_pattern(text, pattern);
+  }
+}
+
 }  // namespace
 }  // namespace zeph
 
@@ -276,10 +293,7 @@ void Zeph_Replace(char* text, const char* pattern, const char* replacement) {
 }
 
 void Zeph_Remove(std::string& text, const std::string& pattern) {
-  if (pattern.empty()) return;
-  zeph::Occurrences occurrences(text, pattern);
-  if (!occurrences.any()) return;
-  text.resize(zeph::shrink_again(occurrences, text.data(), text.size(), {}));
+  zeph::remove_from_string(text, pattern);
 }
 
 void Zeph_Remove(char* text, const char* pattern) {

@@ -11,9 +11,14 @@
 
 namespace zeph {
 
-// The lanes of the first `size` bytes, which are 1 to 64; all of them for more.
+// The lanes of the first `size` bytes, which are 1 to 64.
+inline std::uint64_t few_lanes(std::size_t size) {
+  return ~std::uint64_t{0} >> (64 - size);
+}
+
+// The same; all of them for more.
 inline std::uint64_t first_lanes(std::size_t size) {
-  return size >= 64 ? ~std::uint64_t{0} : ~std::uint64_t{0} >> (64 - size);
+  return size >= 64 ? ~std::uint64_t{0} : few_lanes(size);
 }
 
 __attribute__((target("avx512bw"))) inline __m512i load_64(const char* from) {
