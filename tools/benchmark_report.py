@@ -125,6 +125,25 @@ def summary(ratios):
              geometric_mean(ratios)))
 
 
+def family_summary(rows):
+    """A line for each family: its rows, and its means on short, middling and long texts."""
+    spans = ((0, 128), (128, 16384), (16384, math.inf))
+
+    def line(name, found):
+        ratios = [row.best()[0] for row in found]
+        means = []
+        for low, high in spans:
+            here = [row.best()[0] for row in found if low <= row.bytes < high]
+            means.append('%.2f (%d)' % (geometric_mean(here), len(here)) if here else '')
+        behind = sum(ratio < DRAW for ratio in ratios)
+        return name, len(found), behind, '%.2f' % geometric_mean(ratios), *means
+
+    families = sorted({row.family for row in rows})
+    return table(('family', 'rows', 'behind', 'geometric mean', 'below 128 bytes (rows)', 'below 16 KiB', 'longer'),
+                 [line(family, [row for row in rows if row.family == family]) for family in families] +
+                 [line('all', rows)])
+
+
 def family_tables(rows):
     lines = []
     for family in sorted({row.family for row in rows}):
@@ -273,6 +292,9 @@ def main():
              *machine_lines(), '- This machine: ' + speeds, '',
              '**' + summary([row.best()[0] for row in rows]) + '**', '',
              '![Ratios by family](%s)' % os.path.basename(picture), '',
+             'A mean tells of the rows that it is taken of: an operation has one for each input and size that it takes, '
+             'so that families with many inputs weigh most. By family and by size of the text:', '',
+             *family_summary(rows), '',
              'Rows marked "+ requests": the function has promised to ask the heap for work buffers. Such a row is '
              'held against the peer and the cost of just these requests, measured in the same run. The share of the '
              'limit is the time of the named service of the C library on as many bytes.', '',
