@@ -11,15 +11,8 @@ namespace zeph {
 
 #ifdef ZEPH_SCAN_SSE2
 
-std::size_t copy_text(char* to, const char* from, std::size_t most) {
+std::size_t copy_text_baseline(char* to, const char* from, std::size_t most) {
   std::size_t size = 0;
-#ifdef ZEPH_HAS_AVX512
-  if (has_avx512()) size = copy_text_128_avx512(to, from, most);
-#endif
-#ifdef ZEPH_HAS_AVX2
-  // Behind the wider twin it has nothing left to do.
-  if (has_avx2()) size += copy_text_128_avx2(to + size, from + size, most - size);
-#endif
   for (;;) {
     const std::size_t step = std::min(most - size, mask_bytes);
     const std::uint64_t zeros = byte_mask(from + size, step, '\0');
@@ -32,12 +25,23 @@ std::size_t copy_text(char* to, const char* from, std::size_t most) {
 
 #else
 
-std::size_t copy_text(char* to, const char* from, std::size_t most) {
+std::size_t copy_text_baseline(char* to, const char* from, std::size_t most) {
   const std::size_t size = strnlen(from, most);
   std::memcpy(to, from, size);
   return size;
 }
 
 #endif
+
+std::size_t copy_text(char* to, const char* from, std::size_t most) {
+#ifdef ZEPH_HAS_AVX512
+  if (has_avx512()) return copy_text_avx512(to, from, most);
+#endif
+  std::size_t size = 0;
+#ifdef ZEPH_HAS_AVX2
+  if (has_avx2()) size = copy_text_128_avx2(to, from, most);
+#endif
+  return size + copy_text_baseline(to + size, from + size, most - size);
+}
 
 }  // namespace zeph

@@ -10,9 +10,12 @@ namespace zeph {
 // Returns how many. The places do not overlap.
 std::size_t copy_text(char* to, const char* from, std::size_t most);
 
+// The twins; the baseline is what the compiler's target has.
+std::size_t copy_text_baseline(char* to, const char* from, std::size_t most);
+std::size_t copy_text_avx512(char* to, const char* from, std::size_t most);
+
 // Copies in steps of 128 bytes, as many of these as hold no zero byte. Returns how many bytes.
 std::size_t copy_text_128_avx2(char* to, const char* from, std::size_t most);
-std::size_t copy_text_128_avx512(char* to, const char* from, std::size_t most);
 
 }  // namespace zeph
 
