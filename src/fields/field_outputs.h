@@ -9,6 +9,7 @@
 
 #include "frame/fixed_buffers.h"
 #include "frame/owned_buffers.h"
+#include "frame/string_pieces.h"
 #include "scan/copy_text.h"
 #include "scan/move_bytes.h"
 
@@ -98,7 +99,7 @@ class FieldPlaces {
   void assign_to(std::size_t index, std::string& out) const {
     const std::string_view field = fields_[index];
     if (index + 1 < count || !has_long_rest_) {
-      out = field;
+      put_string(out, field.data(), field.size());
     } else if (field.size() <= out.size()) {
       out.erase(copy_text(&out[0], field.data(), field.size()));
     } else {
