@@ -118,24 +118,25 @@ TEST(Kernels, RemoveByte) {
   });
 }
 
-// A text in as much room as it takes, its zero byte not counted.
+// A text in as much room as it takes, the byte that ends it not counted.
 TEST(Kernels, CopyText) {
   each_size([](Draw& draw, std::size_t size) {
     std::string text = draw.text(0, "ab\xFF");
     const std::size_t end = draw.below(2 * size + 1);
-    if (end < size) text[end] = '\0';
+    const char stop = draw.yes() ? '\0' : 'c';
+    if (end < size) text[end] = draw.yes() ? stop : '\0';
     const std::string expected = text.substr(0, end);
     const GuardedText in(text, End::bare);
     for (auto* const copy : {zeph::copy_text, zeph::copy_text_baseline}) {
       const GuardedBuffer out(expected.size());
-      ASSERT_EQ(copy(out.data(), in.data(), size), expected.size());
+      ASSERT_EQ(copy(out.data(), in.data(), size, stop), expected.size());
       ASSERT_EQ(std::string(out.data(), expected.size()), expected);
     }
 #ifdef ZEPH_HAS_AVX2
     if (!has_avx2) return;
     const std::size_t steps = expected.size() / 128 * 128;
     const GuardedBuffer out(steps);
-    ASSERT_EQ(zeph::copy_text_128_avx2(out.data(), in.data(), size), steps);
+    ASSERT_EQ(zeph::copy_text_128_avx2(out.data(), in.data(), size, stop), steps);
     ASSERT_EQ(std::string(out.data(), steps), expected.substr(0, steps));
 #endif
   });
