@@ -118,6 +118,24 @@ TEST(Kernels, RemoveByte) {
   });
 }
 
+// Places apart, and places that overlap or only touch.
+TEST(Kernels, MoveBytes) {
+  each_size([](Draw& draw, std::size_t size) {
+    const std::string text = draw.bytes(0), twice = text + text;
+    const GuardedText in(text, End::bare), both(twice, End::bare);
+    const GuardedBuffer out(size);
+    zeph::move_bytes(out.data(), in.data(), size);
+    ASSERT_EQ(std::string(out.data(), size), text);
+    const std::size_t from = draw.below(size + 1), to = draw.yes() ? size - from : from / 2;
+    zeph::move_bytes(both.data() + to, both.data() + from, size);
+    ASSERT_EQ(std::string(both.data() + to, size), twice.substr(from, size));
+  });
+  const std::string longer = std::string(10000, 'a') + 'b';
+  const GuardedBuffer out(longer.size());
+  zeph::move_bytes(out.data(), longer.data(), longer.size());
+  EXPECT_EQ(std::string(out.data(), longer.size()), longer);
+}
+
 // A text in as much room as it takes, the byte that ends it not counted.
 TEST(Kernels, CopyText) {
   each_size([](Draw& draw, std::size_t size) {
