@@ -4,7 +4,6 @@
 #include <cstring>
 
 #include "scan/byte_mask.h"
-#include "scan/find_byte.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -44,8 +43,7 @@ inline const char* put_near_fields(Sink& fields, const char* text) {
 // The first field may be longer than the limit. Returns where the second one starts.
 template <typename Sink>
 inline const char* put_first_field(Sink& fields, const char* text, std::size_t& size) {
-  const char* const end = find_byte_or_end(text, blank);
-  fields.put(text, end);
+  const char* const end = fields.put_up_to(text, blank);
   size = static_cast<std::size_t>(end - text);
   return skip_blanks(end);
 }
@@ -55,8 +53,7 @@ template <typename Sink>
 inline void put_fields_singly(Sink fields, const char* text, std::size_t size) {
   const std::size_t limit = fields.limit();
   while (fields.left() > 1) {
-    const char* const end = find_byte_or_end(text, blank, limit, 256 + size);
-    fields.put(text, end);
+    const char* const end = fields.put_within_limit(text, blank, 256 + size);
     size = static_cast<std::size_t>(end - text);
     if (size == limit) return fields.put_empty();
     text = skip_blanks(end);
@@ -65,10 +62,10 @@ inline void put_fields_singly(Sink fields, const char* text, std::size_t size) {
 }
 
 // The core of Zeph_Seperate: one pass, which stops at the byte that fills a middle or the last
-// field. `Sink` is a writer, or a reference to what the caller looks at afterwards. A look pays if
-// it may find several blanks, and for as long as fields are short, which the first one tells.
+// field. A look pays if it may find several blanks, and for as long as fields are short, which the
+// first one tells.
 template <std::size_t count, typename Sink>
-void split_blank_fields(const char* text, Sink fields) {
+inline void split_blank_fields(const char* text, Sink fields) {
   if (fields.limit() == 0) return fields.put_empty();
   std::size_t size;
   text = put_first_field(fields, text, size);
@@ -87,7 +84,7 @@ template <typename... Outputs>
 void split_blank_bytes(const char* text, int limit, Outputs... outputs) {
   constexpr std::size_t count = sizeof...(Outputs);
   char* const rooms[] = {outputs...};
-  split_blank_fields<count>(text, FieldWriter(rooms, field_limit(limit)));
+  split_blank_fields<count>(text, FieldWriter(rooms, count, field_limit(limit)));
 }
 
 template <typename... Outputs>

@@ -4,7 +4,6 @@
 #include <cstring>
 
 #include "scan/byte_mask.h"
-#include "scan/find_byte.h"
 #include "zeph.h"
 
 namespace zeph {
@@ -28,13 +27,11 @@ inline const char* put_near_fields(Sink& fields, const char* text, char delimite
   return nullptr;
 }
 
-// The core of Zeph_Seperate_Char: one pass; a zero delimiter is never found. `Sink` is a writer, or
-// a reference to what the caller looks at afterwards.
+// The core of Zeph_Seperate_Char: one pass; a zero delimiter is never found.
 template <typename Sink>
 inline void split_fields_singly(const char* text, char delimiter, Sink fields) {
   while (fields.left() > 1) {
-    const char* const end = find_byte_or_end(text, delimiter);
-    fields.put(text, end);
+    const char* const end = fields.put_up_to(text, delimiter);
     if (*end == '\0') return fields.put_empty();
     text = end + 1;
   }
@@ -47,8 +44,7 @@ template <typename Sink>
 void split_many_fields(const char* text, char delimiter, Sink fields) {
   for (;;) {
     const char* const before = text;
-    const char* const end = find_byte_or_end(text, delimiter);
-    fields.put(text, end);
+    const char* const end = fields.put_up_to(text, delimiter);
     if (*end == '\0') return fields.put_empty();
     text = end + 1;
     if (end - before > 32 || fields.left() < 3) break;
@@ -72,7 +68,7 @@ template <typename... Outputs>
 void split_char_bytes(const char* text, char delimiter, int limit, Outputs... outputs) {
   constexpr std::size_t count = sizeof...(Outputs);
   char* const rooms[] = {outputs...};
-  split_char_fields<count>(text, delimiter, FieldWriter(rooms, field_limit(limit)));
+  split_char_fields<count>(text, delimiter, FieldWriter(rooms, count, field_limit(limit)));
 }
 
 template <typename... Outputs>

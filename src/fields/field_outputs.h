@@ -5,11 +5,12 @@
 #include <algorithm>
 #include <cstddef>
 #include <string>
-#include <string_view>
 
 #include "frame/fixed_buffers.h"
 #include "frame/owned_buffers.h"
+#include "frame/string_pieces.h"
 #include "scan/copy_text.h"
+#include "scan/find_byte.h"
 #include "scan/move_bytes.h"
 
 namespace zeph {
@@ -34,8 +35,7 @@ inline void put_field(char* out, const char* from, const char* end, std::size_t 
 // all that it reads.
 class FieldWriter {
  public:
-  template <std::size_t count>
-  FieldWriter(char* const (&outputs)[count], std::size_t limit)
+  FieldWriter(char* const* outputs, std::size_t count, std::size_t limit)
       : next_(outputs), end_(outputs + count), limit_(limit) {}
 
   std::size_t limit() const {
@@ -45,9 +45,22 @@ class FieldWriter {
   std::size_t left() const {
     return static_cast<std::size_t>(end_ - next_);
   }
-  // Writes the bytes from `from` up to `end` as the next field.
-  void put(const char* from, const char* end) {
+  // Writes the bytes from `from` up to `end` as the next field. Inlined before anything else is, so
+  // that a few outputs stay in registers.
+  [[gnu::always_inline]] void put(const char* from, const char* end) {
     put_field(*next_++, from, end, limit_);
+  }
+  // Writes what stands in front of the separator as the next field. Returns where the field ends.
+  const char* put_up_to(const char* from, char separator) {
+    const char* const end = find_byte_or_end(from, separator);
+    put(from, end);
+    return end;
+  }
+  // The same where the limit ends a field, too. It is fastest within the `near` first bytes.
+  const char* put_within_limit(const char* from, char separator, std::size_t near) {
+    const char* const end = find_byte_or_end(from, separator, limit_, near);
+    put(from, end);
+    return end;
   }
   // Writes what is left of the text as the last field.
   void put_rest(const char* from) {
@@ -64,54 +77,69 @@ class FieldWriter {
   std::size_t limit_;
 };
 
-// Notes where the fields of one split of a String stand.
-template <std::size_t count>
-class FieldPlaces {
+// The same to Strings that are not the text, which is a String as well: all of it may be read.
+class FieldStrings {
  public:
-  FieldPlaces(std::size_t limit, const char* text_end) : limit_(limit), text_end_(text_end) {}
+  FieldStrings(std::string* const* outputs, std::size_t count, std::size_t limit,
+               const char* text_end)
+      : next_(outputs), end_(outputs + count), limit_(limit), text_end_(text_end) {}
 
   std::size_t limit() const {
     return limit_;
   }
   std::size_t left() const {
-    return count - noted_;
+    return static_cast<std::size_t>(end_ - next_);
   }
   void put(const char* from, const char* end) {
-    fields_[noted_++] = {from, std::min(static_cast<std::size_t>(end - from), limit_)};
+    put_string(**next_++, from, std::min(static_cast<std::size_t>(end - from), limit_));
   }
-  // A long rest is noted with all that may belong to it: a zero byte that ends it is looked for
-  // when it is copied.
+  const char* put_up_to(const char* from, char separator) {
+    if (const char* const end = put_long(from, separator)) return end;
+    const char* const end = find_byte_or_end(from, separator);
+    put(from, end);
+    return end;
+  }
+  const char* put_within_limit(const char* from, char separator, std::size_t near) {
+    if (const char* const end = put_long(from, separator)) return end;
+    const char* const end = find_byte_or_end(from, separator, limit_, near);
+    put(from, end);
+    return end;
+  }
   void put_rest(const char* from) {
-    constexpr std::size_t long_rest = 256;
-    const std::size_t most = std::min(static_cast<std::size_t>(text_end_ - from), limit_);
-    has_long_rest_ = most > long_rest;
-    put(from, from + (has_long_rest_ ? most : strnlen(from, most)));
+    const std::size_t most = most_of(from);
+    std::string& out = **next_;
+    if (most <= long_field || most > out.size()) return put(from, from + strnlen(from, most));
+    out.erase(copy_text(&out[0], from, most));
+    ++next_;
   }
   void put_empty() {
-    noted_ = count;
-  }
-  // A long rest is not cut: it may go on behind a zero byte.
-  std::string_view operator[](std::size_t index) const {
-    return fields_[index];
-  }
-  // Only for outputs that are not the text.
-  void assign_to(std::size_t index, std::string& out) const {
-    const std::string_view field = fields_[index];
-    if (index + 1 < count || !has_long_rest_) {
-      out = field;
-    } else if (field.size() <= out.size()) {
-      out.erase(copy_text(&out[0], field.data(), field.size()));
-    } else {
-      out.assign(field.data(), strnlen(field.data(), field.size()));
-    }
+    while (next_ != end_) (*next_++)->clear();
   }
 
  private:
-  std::string_view fields_[count];
-  std::size_t noted_ = 0;
+  static constexpr std::size_t long_field = 64;
+
+  std::size_t most_of(const char* from) const {
+    return std::min(static_cast<std::size_t>(text_end_ - from), limit_);
+  }
+
+  // Where a long field was, another one is expected: it is copied while its end is looked for.
+  // Returns where it ends, or NULL if it is not put: it is longer than the former one or the limit.
+  const char* put_long(const char* from, char separator) {
+    std::string& out = **next_;
+    if (out.size() <= long_field) return nullptr;
+    const std::size_t most = std::min(most_of(from), out.size());
+    const char* const end = from + copy_text(&out[0], from, most, separator);
+    if (*end != separator && *end != '\0') return nullptr;
+    out.erase(static_cast<std::size_t>(end - from));
+    ++next_;
+    return end;
+  }
+
+  std::string* const* next_;
+  std::string* const* end_;
   std::size_t limit_;
   const char* text_end_;
-  bool has_long_rest_ = false;
 };
 
 // The String form of a splitter, which is split(text, sink). The interface promises a work buffer
@@ -123,15 +151,15 @@ void split_into_strings(const std::string& text, int limit, Split split, Strings
   const std::size_t room = field_limit(limit);
   const WorkBuffers<count> work(room + 1);
   if (!work.complete()) return;
-  FieldPlaces<count> fields(room, text.c_str() + text.size());
-  split(text.c_str(), fields);
-  std::size_t next = 0;
   if (((&outputs == &text) || ...)) {
-    // As byte texts the buffers cut a long rest, too.
-    for (std::size_t i = 0; i < count; ++i) put_text(work[i], fields[i].data(), fields[i].size());
+    FieldWriter fields(work.data(), count, room);
+    split(text.c_str(), fields);
+    std::size_t next = 0;
     ((outputs = work[next++]), ...);
   } else {
-    (fields.assign_to(next++, outputs), ...);
+    std::string* const strings[] = {&outputs...};
+    FieldStrings fields(strings, count, room, text.c_str() + text.size());
+    split(text.c_str(), fields);
   }
 }
 

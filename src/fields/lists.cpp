@@ -67,7 +67,7 @@ void append_joined(const List& list, char delimiter, std::string& out) {
   char* to = out.data();
   for (const std::string& item : list) {
     if (&item != &out) {
-      move_bytes(to, item.data(), item.size());
+      move_piece(to, item.data(), item.size());
       to += item.size();
     }
     ++to;

@@ -56,7 +56,10 @@ class WorkBuffers {
     return true;
   }
   char* operator[](std::size_t index) const {
-    return blocks_.data()[index];
+    return data()[index];
+  }
+  char* const* data() const {
+    return blocks_.data();
   }
 
  private:

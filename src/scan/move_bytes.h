@@ -44,8 +44,19 @@ inline void move_ends_32(char* to, const char* from, std::size_t size) {
   store_piece(to + size - 16, d);
 }
 
-// Copies `size` bytes; the places may overlap. A short piece costs no call.
-inline void move_bytes(char* to, const char* from, std::size_t size) {
+// More than 64 bytes, by a call.
+void move_long(char* to, const char* from, std::size_t size);
+
+// The twin for places that do not overlap and at least 256 bytes.
+void copy_apart_avx512(char* to, const char* from, std::size_t size);
+
+// What is copied: a text may have some KiB, a piece of many hardly has. A longer piece goes to the
+// runtime: compilers know what its copy leaves alone, so that a loop keeps more in registers.
+enum class Copied { text, piece };
+
+// Copies `size` bytes; the places may overlap. Up to 64 cost no call.
+template <Copied what>
+[[gnu::always_inline]] inline void move_bytes_as(char* to, const char* from, std::size_t size) {
   if (size < 16) {
     if (size >= 8) {
       move_ends<8>(to, from, size);
@@ -60,9 +71,19 @@ inline void move_bytes(char* to, const char* from, std::size_t size) {
     move_ends<16>(to, from, size);
   } else if (size <= 64) {
     move_ends_32(to, from, size);
+  } else if constexpr (what == Copied::text) {
+    move_long(to, from, size);
   } else {
     std::memmove(to, from, size);
   }
+}
+
+inline void move_bytes(char* to, const char* from, std::size_t size) {
+  move_bytes_as<Copied::text>(to, from, size);
+}
+
+inline void move_piece(char* to, const char* from, std::size_t size) {
+  move_bytes_as<Copied::piece>(to, from, size);
 }
 
 // Fills at least `half` and at most twice as many bytes.

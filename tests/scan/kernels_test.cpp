@@ -136,25 +136,44 @@ TEST(Kernels, RemoveByte) {
   });
 }
 
-// A text in as much room as it takes, its zero byte not counted.
+// Places apart, and places that overlap or only touch.
+TEST(Kernels, MoveBytes) {
+  each_size([](Draw& draw, std::size_t size) {
+    const std::string text = draw.bytes(0), twice = text + text;
+    const GuardedText in(text, End::bare), both(twice, End::bare);
+    const GuardedBuffer out(size);
+    zeph::move_bytes(out.data(), in.data(), size);
+    ASSERT_EQ(std::string(out.data(), size), text);
+    const std::size_t from = draw.below(size + 1), to = draw.yes() ? size - from : from / 2;
+    zeph::move_bytes(both.data() + to, both.data() + from, size);
+    ASSERT_EQ(std::string(both.data() + to, size), twice.substr(from, size));
+  });
+  const std::string longer = std::string(10000, 'a') + 'b';
+  const GuardedBuffer out(longer.size());
+  zeph::move_bytes(out.data(), longer.data(), longer.size());
+  EXPECT_EQ(std::string(out.data(), longer.size()), longer);
+}
+
+// A text in as much room as it takes, the byte that ends it not counted.
 TEST(Kernels, CopyText) {
   each_size([](Draw& draw, std::size_t size) {
     std::string text = draw.text(0, "ab\xFF");
     const std::size_t end = draw.below(2 * size + 1);
-    if (end < size) text[end] = '\0';
+    const char stop = draw.yes() ? '\0' : 'c';
+    if (end < size) text[end] = draw.yes() ? stop : '\0';
     const std::string expected = text.substr(0, end);
     const GuardedText in(text, End::bare);
-    const GuardedBuffer out(expected.size());
-    ASSERT_EQ(zeph::copy_text(out.data(), in.data(), size), expected.size());
-    ASSERT_EQ(std::string(out.data(), expected.size()), expected);
-    [[maybe_unused]] const std::size_t steps = expected.size() / 128 * 128;
+    for (auto* const copy : {zeph::copy_text, zeph::copy_text_baseline}) {
+      const GuardedBuffer out(expected.size());
+      ASSERT_EQ(copy(out.data(), in.data(), size, stop), expected.size());
+      ASSERT_EQ(std::string(out.data(), expected.size()), expected);
+    }
 #ifdef ZEPH_HAS_AVX2
     if (!has_avx2) return;
-    ASSERT_EQ(zeph::copy_text_128_avx2(out.data(), in.data(), size), steps);
-#endif
-#ifdef ZEPH_HAS_AVX512
-    if (!zeph::has_avx512()) return;
-    ASSERT_EQ(zeph::copy_text_128_avx512(out.data(), in.data(), size), steps);
+    const std::size_t steps = expected.size() / 128 * 128;
+    const GuardedBuffer out(steps);
+    ASSERT_EQ(zeph::copy_text_128_avx2(out.data(), in.data(), size, stop), steps);
+    ASSERT_EQ(std::string(out.data(), steps), expected.substr(0, steps));
 #endif
   });
 }
