@@ -198,6 +198,18 @@ int find_item_at_a_look(const List& list, Value sought) {
   return -1;
 }
 
+// Whether one look before any search tells that the first item is the value. A value that
+// ends in the other case is left to the search.
+template <typename Value>
+bool is_plainly_first(const List& list, Value sought) {
+  const View text = list.text;
+  const std::size_t size = sought.value.size();
+  if (size == 0 || size > text.size() || text[size - 1] != sought.value.back()) return false;
+  if (size < text.size() && text[size] != list.separator) return false;
+  const View front = text.substr(0, size);
+  return sought.equals(front) && front.find(list.separator) == View::npos;
+}
+
 // The value is searched for as a whole, and the separators in front of it are counted. Where it
 // turns up inside of other items, these are looked at one by one from there on.
 template <typename Value>
@@ -230,13 +242,15 @@ int search_with_buffers(const char* list, char separator, SeparatorRun run, Sear
 
 int find_exact(const char* list_text, char separator, SeparatorRun run, const char* value) {
   return search_with_buffers(list_text, separator, run, [value](const List& list) {
-    return find_item(list, ExactValue{value});
+    const ExactValue sought{value};
+    return is_plainly_first(list, sought) ? 0 : find_item(list, sought);
   });
 }
 
 int find_folded(const char* list_text, char separator, SeparatorRun run, const char* value) {
   return search_with_buffers(list_text, separator, run, [value](const List& list) {
     const FoldedValue sought{value};
+    if (is_plainly_first(list, sought)) return 0;
     // A value in the other case must not run over a letter that separates.
     const bool letter = ascii_fold(LetterCase::lower, list.separator) !=
                         ascii_fold(LetterCase::upper, list.separator);
