@@ -38,10 +38,16 @@ void appended(Draw& draw) {
   EXPECT_EQ(left_in_room(2 * text.size() + 1, append_own, &text), text + text.substr(from));
 }
 
+// Nothing, or what nearly fills the room in which short results are gathered.
+std::string front(Draw& draw) {
+  return std::string(draw.below(4) == 0 ? 1990 + draw.below(60) : 0, '.');
+}
+
 void printed_to_size(Draw& draw) {
-  const std::string text = draw.text(700), more = draw.piece(5);
+  const std::string text = front(draw) + draw.text(700), more = draw.piece(5);
   const char* const last = draw.below(20) == 0 ? nullptr : more.c_str();
-  const int size = draw.yes() ? draw.any_int() : draw.between(0, 800);
+  const int size =
+      draw.yes() ? draw.any_int() : draw.between(0, static_cast<int>(text.size()) + 99);
   if (size < 0) {
     EXPECT_THROW(Zeph_Splicing(size, "%s", "x"), std::bad_alloc);
     EXPECT_EQ(Zeph_Splicing(9, "%%"), "%");
@@ -68,10 +74,12 @@ std::string directive(Draw& draw, const std::string& flags, const std::string& k
 
 void printed_directives(Draw& draw) {
   const std::string text = draw.text(40, "ab");
-  const int number = draw.any_int(), byte = draw.byte(), size = draw.between(2, 99);
+  const int number = draw.any_int(), byte = draw.byte();
   const double real = draw.below(16) == 0 ? HUGE_VAL : any_real(draw);
+  const std::string before = front(draw);
+  const int size = static_cast<int>(before.size()) + draw.between(2, 99);
   const std::string format =
-      directive(draw, "-", "s") + draw.piece(3, "ab") +
+      before + directive(draw, "-", "s") + draw.piece(3, "ab") +
       directive(draw, draw.yes() ? "-0" : "-0 +", "d") + "%%" +
       directive(draw, "-0", draw.yes() ? "uxX" : "o") + directive(draw, "-0", "c") +
       directive(draw, "-0", draw.below(8) == 0 ? "e" : "f") + directive(draw, "-0", "s");
@@ -81,7 +89,7 @@ void printed_directives(Draw& draw) {
   };
   const std::string whole = print([](auto... values) { return printed(values...); });
   const auto splice = [](auto... values) { return Zeph_Splicing(values...); };
-  EXPECT_EQ(print(splice, 1024), whole) << format;
+  EXPECT_EQ(print(splice, 4096), whole) << format;
   EXPECT_EQ(print(splice, size), whole.substr(0, static_cast<std::size_t>(size - 1))) << format;
 }
 

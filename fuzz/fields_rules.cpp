@@ -183,7 +183,8 @@ void index_of_value(Draw& draw) {
 
 // The items of a split, joined, are the text without its empty items.
 void split_and_join(Draw& draw) {
-  const std::string text = draw.yes() ? draw.bytes(300) : list_text(draw);
+  const std::size_t longest = draw.below(8) == 0 ? 3000 : 300;
+  const std::string text = draw.yes() ? draw.bytes(longest) : list_text(draw);
   const char delimiter = draw.yes() ? ',' : '\0';
   Fields expected = {"held"}, list = expected;
   std::string joined = "held", out = "former";
@@ -197,6 +198,14 @@ void split_and_join(Draw& draw) {
   Zeph_Join(list, '|', out);
   EXPECT_EQ(out, joined);
   EXPECT_EQ(Zeph_Join(list, '|'), joined);
+  Zeph_Join({text}, '|', out);
+  EXPECT_EQ(out, text);
+  EXPECT_EQ(Zeph_Join({text}, '|'), text);
+  // Into an item of the list, which counts as an empty one.
+  const std::size_t own = draw.below(list.size());
+  expected[own].clear();
+  Zeph_Join(list, '|', list[own]);
+  EXPECT_EQ(list[own], Zeph_Join(expected, '|'));
 }
 
 }  // namespace

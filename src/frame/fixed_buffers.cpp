@@ -14,10 +14,20 @@ namespace {
   put_text(out, text, length < room ? length : room);
 }
 
-// Where the room may be too small. It stays out of the way of those who need no room on the stack.
-[[gnu::noinline]] void put_cut_integer(char* out, int value, int size) {
+bool holds_any_integer(int size) {
+  return size < 0 || size >= static_cast<int>(longest_integer);
+}
+
+// Where the number is long or the room may be too small. It stays out of the way of those who need
+// no room on the stack.
+[[gnu::noinline]] bool put_rare_integer(char* out, int value, int size) {
+  if (holds_any_integer(size)) {
+    put_integer(out, value);
+    return true;
+  }
   char digits[longest_integer];
   put_cut(out, digits, static_cast<std::size_t>(put_integer(digits, value) - digits), size);
+  return true;
 }
 
 }  // namespace
@@ -33,11 +43,10 @@ bool Zeph_Copy_Stack(char* target, const char* source, int size) {
 }
 
 bool Zeph_Copy_Stack(char* target, int value, int size) {
-  if (__builtin_expect(size < 0 || size >= static_cast<int>(zeph::longest_integer), 1)) {
-    zeph::put_integer(target, value);
-  } else {
-    zeph::put_cut_integer(target, value, size);
+  if (__builtin_expect(!zeph::holds_any_integer(size) || zeph::has_many_digits(value), 0)) {
+    return zeph::put_rare_integer(target, value, size);
   }
+  zeph::put_integer(target, value);
   return true;
 }
 

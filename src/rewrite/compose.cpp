@@ -14,28 +14,46 @@
 namespace zeph {
 namespace {
 
-// The printed text, cut to a buffer of `size` bytes, up to its first zero byte. Short texts are
-// printed once and take no heap but the result's; a longer one is printed again into the result.
-std::string splice(std::size_t size, const char* format, std::va_list arguments) {
-  constexpr std::size_t most_near = 2048;
-  char near[most_near + PlainPrint::slack];
-  const std::size_t room = std::min(size, most_near);
-  PlainPrint plain(near, near + room - 1);
-  std::va_list copy;
-  va_copy(copy, arguments);
-  const bool printed = plain.print(format, copy);
-  va_end(copy);
-  if (printed && (!plain.cut() || room == size)) return std::string(near, plain.end());
+struct Arguments {
+  std::va_list list;
+  ~Arguments() {
+    va_end(list);
+  }
+};
+
+// As splice(), by the runtime and up to the first zero byte. Short texts are printed once and take
+// no heap but the result's; a longer one is printed again into the result. By itself, so that only
+// these prints have two rooms on the stack.
+[[gnu::noinline]] void print_by_runtime(std::string& text, std::size_t size, const char* format,
+                                        std::va_list arguments) {
+  char near[2048];
+  const std::size_t room = std::min(size, sizeof near);
   const int length = format_list_bounded(near, room, format, arguments);
   const bool printed_whole = length >= 0 && static_cast<std::size_t>(length) < room;
   if (printed_whole || (room == size && length >= 0)) {
-    return std::string(near, strnlen(near, room - 1));
+    text.assign(near, strnlen(near, room - 1));
+    return;
   }
   // A print that failed leaves what it had printed so far, as far as the room goes.
   const std::size_t whole = length < 0 ? size : static_cast<std::size_t>(length);
-  std::string text(whole < size ? whole : size - 1, '\0');
+  text.assign(whole < size ? whole : size - 1, '\0');
   format_list_bounded(text.data(), text.size() + 1, format, arguments);
   text.resize(std::strlen(text.c_str()));
+}
+
+// The printed text, cut to a buffer of `size` bytes.
+std::string splice(std::size_t size, const char* format, std::va_list arguments) {
+  char near[PlainPrint::near_room];
+  std::string text;
+  Arguments copy;
+  va_copy(copy.list, arguments);
+  PlainPrint plain(near, text, size - 1);
+  if (!plain.print(format, copy.list)) {
+    print_by_runtime(text, size, format, arguments);
+    return text;
+  }
+  if (text.empty()) return std::string(near, plain.end());
+  text.append(near, plain.end());
   return text;
 }
 
@@ -79,12 +97,7 @@ std::string Zeph_Splicing(int size, const char* format, ...) {
   // checking heaps take such a request for a fault and stop the process.
   if (size < 0) throw std::bad_alloc();
   if (size <= 1) return std::string();
-  struct Arguments {
-    std::va_list list;
-    ~Arguments() {
-      va_end(list);
-    }
-  } arguments;
+  zeph::Arguments arguments;
   va_start(arguments.list, format);
   return zeph::splice(static_cast<std::size_t>(size), format, arguments.list);
 }

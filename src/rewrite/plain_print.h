@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cstdarg>
 #include <cstring>
+#include <string>
 
 #include "frame/put_integer.h"
 #include "number/real_format.h"
@@ -16,17 +17,22 @@ namespace zeph {
 // Directives of %s, %d, %i, %u, %x, %X, %c, %f and %%; all but the last with '-', '0' and a
 // width below 100, and of %s and %f with one digit of precision. What comes of all others is the
 // runtime's to say, and of NULL for a text, a zero byte, and a directive behind the end of the
-// room.
+// result.
+//
+// The pieces are gathered in a near room. What does not fit there is moved on to the result, which
+// a long text is appended to at once.
 class PlainPrint {
  public:
-  // What a number may take behind the room: it is printed whole before it is cut.
-  static constexpr std::size_t slack = longest_real;
+  // A number may take some more: it is printed whole before it is cut.
+  static constexpr std::size_t most_near = 2048, near_room = most_near + longest_real;
 
-  // The room ends at `limit`.
-  PlainPrint(char* out, char* limit) : out_(out), limit_(limit) {}
+  // The result starts empty and takes at most so many bytes.
+  PlainPrint(char* near, std::string& result, std::size_t most) : near_(near), result_(result) {
+    set_near_room(most);
+  }
 
-  // False if the runtime has to print the format. Inlined where the room is an array, a hardened
-  // build would check it at each piece.
+  // False if the runtime has to print the format; some of it may be in the result. Inlined where
+  // the room is an array, a hardened build would check it at each piece.
   [[gnu::noinline]] bool print(const char* format, std::va_list& arguments) {
     for (; *format != '\0'; ++format) {
       if (*format != '%' || *++format == '%') {
@@ -37,12 +43,9 @@ class PlainPrint {
     }
     return true;
   }
+  // What stands in the near room at the end belongs behind the result.
   char* end() const {
     return out_;
-  }
-  // Whether the room was too small.
-  bool cut() const {
-    return cut_;
   }
 
  private:
@@ -96,22 +99,49 @@ class PlainPrint {
     }
   }
 
+  std::size_t near_size() const {
+    return static_cast<std::size_t>(out_ - near_);
+  }
+  std::size_t left_near() const {
+    return static_cast<std::size_t>(limit_ - out_);
+  }
+  // What the result still takes.
+  std::size_t left() const {
+    return left_near() + behind_;
+  }
+
+  void set_near_room(std::size_t left) {
+    const std::size_t here = std::min(left, most_near);
+    out_ = near_;
+    limit_ = near_ + here;
+    behind_ = left - here;
+  }
+
   void put_literal(char byte) {
-    if (out_ == limit_) {
-      cut_ = true;
-    } else {
-      *out_++ = byte;
-    }
+    if (out_ == limit_) return put_bytes(&byte, 1);
+    *out_++ = byte;
   }
 
   void put_bytes(const char* bytes, std::size_t size) {
-    const auto left = static_cast<std::size_t>(limit_ - out_);
-    if (size > left) {
+    if (size > left_near()) {
+      if (behind_ > 0) return append(bytes, size);
       cut_ = true;
-      size = left;
+      size = left_near();
     }
     move_bytes(out_, bytes, size);
     out_ += size;
+  }
+
+  // What stands near and then these bytes, with room for what follows.
+  [[gnu::noinline]] void append(const char* bytes, std::size_t size) {
+    const std::size_t most = left();
+    cut_ = size > most;
+    size = std::min(size, most);
+    const std::size_t next = std::min(most - size, most_near);
+    const std::size_t needed = result_.size() + near_size() + size + next;
+    if (needed > result_.capacity()) result_.reserve(std::max(needed, 2 * result_.capacity()));
+    result_.append(near_, near_size()).append(bytes, size);
+    set_near_room(most - size);
   }
 
   // No more of the text is read than the room tells apart.
@@ -121,8 +151,7 @@ class PlainPrint {
     if (directive.precision >= 0) {
       size = strnlen(text, static_cast<std::size_t>(directive.precision));
     } else {
-      const auto left = static_cast<std::size_t>(limit_ - out_);
-      size = strnlen(text, std::max(left + 1, directive.width));
+      size = strnlen(text, std::max(left() + 1, directive.width));
     }
     const std::size_t blanks = directive.width > size ? directive.width - size : 0;
     if (!directive.left) put_blanks(blanks);
@@ -138,7 +167,7 @@ class PlainPrint {
   }
 
   char* put_hexadecimal(unsigned value) {
-    return std::to_chars(out_, out_ + slack, value, 16).ptr;
+    return std::to_chars(out_, out_ + longest_real, value, 16).ptr;
   }
 
   // An integer that stands there in digits. Its precision is left to the runtime.
@@ -177,12 +206,17 @@ class PlainPrint {
       }
       end += more;
     }
-    cut_ = end > limit_;
-    out_ = cut_ ? limit_ : end;
+    if (end > limit_) {
+      put_bytes(out_, static_cast<std::size_t>(end - out_));
+    } else {
+      out_ = end;
+    }
     return true;
   }
 
-  char *out_, *limit_;
+  char *near_, *out_, *limit_;
+  std::size_t behind_;  // what the result takes behind the limit
+  std::string& result_;
   bool cut_ = false;
 };
 

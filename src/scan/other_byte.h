@@ -14,8 +14,9 @@ std::size_t run_at_back_portable(const char* text, std::size_t size, char byte);
 std::size_t long_run_at_front(const char* text, std::size_t size, char byte);
 std::size_t long_run_at_back(const char* text, std::size_t size, char byte);
 
-// Most runs are short: the first bytes decide them, without a call.
-constexpr std::size_t near_run = 6;
+// Most runs are short: the first bytes decide them, without a call. Eight blanks are a usual
+// indent.
+constexpr std::size_t near_run = 9;
 
 // How many bytes in front of the first one that is not `byte`; `size` if there is none.
 inline std::size_t run_at_front(const char* text, std::size_t size, char byte) {

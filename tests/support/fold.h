@@ -18,7 +18,7 @@ inline std::string folded(std::string text, char (*fold)(char) = lower) {
 
 template <typename... Values>
 std::string printed(const char* format, Values... values) {
-  char text[1024];
+  char text[4096];
   std::snprintf(text, sizeof text, format, values...);
   return text;
 }
