@@ -21,7 +21,8 @@ struct Removal {
   std::size_t kept, next;
 };
 
-// Goes on, 32 bytes a step, up to the first 32 that do not have the byte. Needs AVX2.
+// Goes on, 32 bytes a step, up to the first 32 that do not have the byte. Of what is left behind
+// the last step, fewer than 8 bytes are not looked at. Needs AVX2.
 Removal remove_dense_byte_avx2(char* text, std::size_t size, char byte, Removal removal);
 
 inline std::size_t remove_byte_short(char* text, std::size_t size, char byte) {
