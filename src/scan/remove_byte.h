@@ -2,6 +2,7 @@
 #ifndef ZEPH_SCAN_REMOVE_BYTE_H
 #define ZEPH_SCAN_REMOVE_BYTE_H
 
+#include <algorithm>
 #include <cstddef>
 
 namespace zeph {
@@ -26,8 +27,7 @@ struct Removal {
 Removal remove_dense_byte_avx2(char* text, std::size_t size, char byte, Removal removal);
 
 inline std::size_t remove_byte_short(char* text, std::size_t size, char byte) {
-  std::size_t kept = 0;
-  while (kept < size && text[kept] != byte) ++kept;
+  auto kept = static_cast<std::size_t>(std::find(text, text + size, byte) - text);
   for (std::size_t next = kept; next < size; ++next) {
     const char here = text[next];
     text[kept] = here;
