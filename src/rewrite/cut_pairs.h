@@ -21,6 +21,15 @@ inline std::size_t pairs_across(const GapText& gap, char first, char second) {
   return n;
 }
 
+// Behind the pairs that stand side by side behind the gap.
+inline std::size_t behind_pairs(const GapText& gap, char first, char second) {
+  std::size_t rest = gap.rest;
+  while (gap.end - rest >= 2 && gap.bytes[rest] == first && gap.bytes[rest + 1] == second) {
+    rest += 2;
+  }
+  return rest;
+}
+
 // In front of the gap there is no pair. Returns the new size.
 inline std::size_t cut_pairs(Occurrences& occurrences, const GapText& text) {
   GapText gap = text;
@@ -33,6 +42,7 @@ inline std::size_t cut_pairs(Occurrences& occurrences, const GapText& text) {
     if (at == Occurrences::none) break;
     gap.pass(at - gap.rest);
     gap.rest += 2;
+    gap.rest = behind_pairs(gap, first, second);
   }
   gap.pass(gap.end - gap.rest);
   return gap.done;
@@ -63,6 +73,12 @@ inline std::size_t cut_few_pairs(char* text, std::size_t size, const char* pair)
   if (new_size != size) text[new_size] = '\0';
 }
 
+// Behind the pairs that stand side by side at `from`.
+inline char* behind_pairs(char* from, char first, char second) {
+  while (from[0] == first && from[1] == second) from += 2;
+  return from;
+}
+
 // `from` is the first byte that is the first of the pair. The next bytes are gone through one by
 // one: that needs no length, and no search, which a short text would not repay.
 [[gnu::noinline]] inline void cut_near_pairs(char* text, char* from, const char* pair) {
@@ -73,11 +89,15 @@ inline std::size_t cut_few_pairs(char* text, std::size_t size, const char* pair)
     if (seen == near) return cut_far_pairs(text, from, from, pair);
   }
   // From the first pair on the bytes go to the top of what is left of the text, and the second of a
-  // pair takes its first away from there.
+  // pair takes its first away from there, as long as there is one every few bytes.
+  constexpr std::ptrdiff_t quiet = 24;
   char* top = from;
-  const char* const far = from + near;
-  for (from += 2; from < far; ++from, ++top) {
-    for (; *from == second && top != text && top[-1] == first; ++from) --top;
+  from = behind_pairs(from, first, second);
+  for (const char* last = from; from - last <= quiet; ++from, ++top) {
+    while (*from == second && top != text && top[-1] == first) {
+      for (; *from == second && top != text && top[-1] == first; ++from) --top;
+      last = from = behind_pairs(from, first, second);
+    }
     if ((*top = *from) == '\0') return;
   }
   cut_far_pairs(text, top, from, pair);

@@ -301,7 +301,9 @@ void Zeph_Remove(char* text, const char* pattern) {
 }
 
 void Zeph_Remove(std::string& text, char byte) {
-  if (byte != '\0') text.resize(zeph::remove_byte(text.data(), text.size(), byte));
+  if (byte == '\0') return;
+  const std::size_t kept = zeph::remove_byte(text.data(), text.size(), byte);
+  if (kept != text.size()) text.resize(kept);
 }
 
 }  // namespace Orbane

@@ -2,6 +2,7 @@
 #ifndef ZEPH_SCAN_REMOVE_BYTE_H
 #define ZEPH_SCAN_REMOVE_BYTE_H
 
+#include <algorithm>
 #include <cstddef>
 
 namespace zeph {
@@ -21,12 +22,12 @@ struct Removal {
   std::size_t kept, next;
 };
 
-// Goes on, 32 bytes a step, up to the first 32 that do not have the byte. Needs AVX2.
+// Goes on, 32 bytes a step, up to the first 32 that do not have the byte. Of what is left behind
+// the last step, fewer than 8 bytes are not looked at. Needs AVX2.
 Removal remove_dense_byte_avx2(char* text, std::size_t size, char byte, Removal removal);
 
 inline std::size_t remove_byte_short(char* text, std::size_t size, char byte) {
-  std::size_t kept = 0;
-  while (kept < size && text[kept] != byte) ++kept;
+  auto kept = static_cast<std::size_t>(std::find(text, text + size, byte) - text);
   for (std::size_t next = kept; next < size; ++next) {
     const char here = text[next];
     text[kept] = here;

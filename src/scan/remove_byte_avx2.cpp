@@ -39,26 +39,31 @@ __attribute__((target("avx2"))) __m128i load_8(const void* from) {
 __attribute__((target("avx2"))) Removal remove_dense_byte_avx2(char* text, std::size_t size,
                                                                char byte, Removal removal) {
   const __m256i removed = _mm256_set1_epi8(byte);
+  // Eight bytes are written at a time; they end in front of the next step's.
+  const auto keep = [&](__m128i eight, unsigned places) __attribute__((target("avx2"))) {
+    const unsigned here = places & 0xFF;
+    const __m128i shuffle = load_8(packing.shuffles[here].data());
+    auto* const to = reinterpret_cast<__m128i*>(text + removal.kept);
+    _mm_storel_epi64(to, _mm_shuffle_epi8(eight, shuffle));
+    removal.kept += packing.kept[here];
+  };
   for (; size - removal.next >= 32; removal.next += 32) {
     char* const from = text + removal.next;
     const __m256i bytes = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(from));
-    auto places = static_cast<unsigned>(_mm256_movemask_epi8(_mm256_cmpeq_epi8(bytes, removed)));
-    if (places == 0) break;
-    // Eight bytes are written at a time; they end in front of the next step's.
-    const auto keep = [&](__m128i eight) __attribute__((target("avx2"))) {
-      const unsigned here = places & 0xFF;
-      const __m128i shuffle = load_8(packing.shuffles[here].data());
-      auto* const to = reinterpret_cast<__m128i*>(text + removal.kept);
-      _mm_storel_epi64(to, _mm_shuffle_epi8(eight, shuffle));
-      removal.kept += packing.kept[here];
-      places >>= 8;
-    };
+    const auto places =
+        static_cast<unsigned>(_mm256_movemask_epi8(_mm256_cmpeq_epi8(bytes, removed)));
+    if (places == 0) return removal;
     // Taken from the register: a load of what was written in part would wait for the stores.
     const __m128i low = _mm256_castsi256_si128(bytes), high = _mm256_extracti128_si256(bytes, 1);
-    keep(low);
-    keep(_mm_srli_si128(low, 8));
-    keep(high);
-    keep(_mm_srli_si128(high, 8));
+    keep(low, places);
+    keep(_mm_srli_si128(low, 8), places >> 8);
+    keep(high, places >> 16);
+    keep(_mm_srli_si128(high, 8), places >> 24);
+  }
+  for (; size - removal.next >= 8; removal.next += 8) {
+    const __m128i eight = load_8(text + removal.next);
+    const __m128i equal = _mm_cmpeq_epi8(eight, _mm256_castsi256_si128(removed));
+    keep(eight, static_cast<unsigned>(_mm_movemask_epi8(equal)));
   }
   return removal;
 }
