@@ -238,8 +238,9 @@ void add_alarm_row(const AlarmTexts& texts, const std::string& input, std::size_
   };
   Alarm& a = keep(Alarm{});
   for (std::size_t i = 0; i < count; ++i) a.texts[i] = a.places.text(texts[i]);
-  a.out = a.places.room(std::max(alarm_room, texts[0].size() + 1));
-  const auto start = [&a, size = texts[0].size() + 1] {
+  a.out = a.places.text(texts[0], alarm_room);
+  // What the call before has written over.
+  const auto start = [&a, size = std::min(alarm_room, texts[0].size() + 1)] {
     return static_cast<char*>(std::memcpy(a.out, a.texts[0], size));
   };
   auto& added = row("compose", "Zeph_Strcat_Alarm_Append_Text",

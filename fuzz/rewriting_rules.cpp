@@ -112,25 +112,35 @@ void enclosing_marks(Draw& draw) {
   std::string text = draw.text(40, draw.yes() ? "\"'([{<)]}>x" : "");
   if (text.size() > 1 && draw.yes()) text.front() = text.back() = '"';
   SCOPED_TRACE(text);
-  const auto expect = [&](auto call, const std::string& bytes, const std::string& string) {
+  using OfString = void(std::string&);
+  const auto expect = [&](auto call, OfString* library, const std::string& bytes,
+                          const std::string& string) {
     const GuardedText in_place(text);
-    std::string object = text;
+    std::string object = text, passed = text;
     call(in_place.data());
     call(object);
+    library(passed);
     EXPECT_EQ(in_place.data(), bytes);
     EXPECT_EQ(object, string);
+    EXPECT_EQ(passed, string);
   };
   const std::string quotes = unmarked(text, "\"'", "\"'");
   std::string brackets = unmarked(text, "([{<", ")]}>"), marked = text, out = "former", same = text;
+  std::string passed = text;
   if (text.size() == 1 && std::string(")]}>").find(text) != std::string::npos) brackets = text;
-  expect([](auto&& each) { Zeph_Remove_QuoteMark(each); }, quotes, quotes);
-  expect([](auto&& each) { Zeph_Remove_Bracket(each); }, brackets, brackets);
+  expect([](auto&& each) { Zeph_Remove_QuoteMark(each); },
+         exported<OfString>(Zeph_Remove_QuoteMark), quotes, quotes);
+  expect([](auto&& each) { Zeph_Remove_Bracket(each); }, exported<OfString>(Zeph_Remove_Bracket),
+         brackets, brackets);
   Zeph_Remove_HeadTail(marked, 'x');
+  exported(Zeph_Remove_HeadTail)(passed, 'x');
   EXPECT_EQ(marked, unmarked(text, "x", "x"));
+  EXPECT_EQ(passed, marked);
 
   const bool both = text.size() > 1 && text.front() == '"' && text.back() == '"';
   const std::string loose = unmarked(text, "\"", "\""), strict = both ? loose : text;
-  expect([](auto&& each) { Zeph_String_Check(each); }, strict, loose);
+  expect([](auto&& each) { Zeph_String_Check(each); }, exported<OfString>(Zeph_String_Check),
+         strict, loose);
   EXPECT_EQ(Zeph_String_Check(text, out), both);
   EXPECT_EQ(Zeph_String_Check(same, same), both);
   EXPECT_EQ(out, loose);

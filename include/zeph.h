@@ -1237,11 +1237,11 @@ ZEPH_API const char* Zeph_Get_SysErrMsg();
 }  // namespace Orbane
 
 /// @cond
-// First steps in the caller. Most comparisons end at the first byte, and the others are one service
-// of the C library; the call into the shared library would be most of what they cost. So compilers
-// get these few functions to put them in the place of the call. The results are those of the
-// exported functions, which a function pointer, another language or a debugger reach as ever.
-// Define ZEPH_NO_INLINE to call the library always.
+// First steps in the caller. Most comparisons end at the first byte, the others are one service of
+// the C library, and most Strings have no blank or mark to take off: the call into the shared
+// library would be most of what they cost. So compilers get these functions to put them in place of
+// the call. The results are those of the exported functions, which a function pointer, another
+// language or a debugger reach as ever. Define ZEPH_NO_INLINE to call the library always.
 #if defined(__ELF__) && defined(__GNUC__) && !defined(ZEPH_BUILDING) && !defined(ZEPH_NO_INLINE)
 
 #define ZEPH_SERVICE __attribute__((visibility("default"))) ZEPH_NO_PLT
@@ -1263,6 +1263,13 @@ ZEPH_SERVICE std::size_t zeph_strlen(const char*) __asm__("strlen");
 ZEPH_SERVICE void* zeph_memset(void*, int, std::size_t) __asm__("memset");
 }
 
+// The library's function, for the rest of the way: a plain call would be taken for the step itself.
+template <typename Function>
+ZEPH_STEP Function* exported(Function* function) {
+  __asm__("" : "+r"(function));
+  return function;
+}
+
 ZEPH_STEP bool first_bytes_differ(const char* a, const char* b) {
   return __builtin_expect(*a != *b, 0);
 }
@@ -1271,6 +1278,16 @@ ZEPH_STEP bool first_bytes_differ(const char* a, const char* b) {
 ZEPH_STEP bool first_bytes_never_fold_alike(const char* a, const char* b) {
   const int x = static_cast<unsigned char>(*a), y = static_cast<unsigned char>(*b);
   return __builtin_expect(((x ^ y) & ~0x20) != 0, 0) && (x | y) < 0x80;
+}
+
+ZEPH_STEP bool is_quote(char byte) {
+  return byte == '"' || byte == '\'';
+}
+ZEPH_STEP bool is_opening(char byte) {
+  return byte == '(' || byte == '[' || byte == '{' || byte == '<';
+}
+ZEPH_STEP bool is_closing(char byte) {
+  return byte == ')' || byte == ']' || byte == '}' || byte == '>';
 }
 
 ZEPH_STEP unsigned long long eight_bytes(const char* from) {
@@ -1303,9 +1320,7 @@ ZEPH_STEP int likeness(const char* a, const char* b, std::size_t size) {
 namespace Orbane {
 
 ZEPH_FIRST_STEPS char* Zeph_Get_Mem_Str(char* text) {
-  char* (*exported)(char*) = Zeph_Get_Mem_Str;
-  __asm__("" : "+r"(exported));  // else compilers take it for this very function
-  return __builtin_expect(text != nullptr, 1) ? text : exported(text);
+  return __builtin_expect(text != nullptr, 1) ? text : zeph::exported(Zeph_Get_Mem_Str)(text);
 }
 
 ZEPH_FIRST_STEPS int Zeph_Get_Mem_Size(char* text) {
@@ -1334,16 +1349,12 @@ ZEPH_FIRST_STEPS bool Zeph_Compare(std::string& a, std::string& b) {
     const int likeness = zeph::likeness(a.data(), b.data(), a.size());
     if (likeness >= 0) return likeness != 0;
   }
-  bool (*exported)(std::string&, std::string&) = Zeph_Compare;
-  __asm__("" : "+r"(exported));
-  return exported(a, b);
+  return zeph::exported<bool(std::string&, std::string&)>(Zeph_Compare)(a, b);
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare(std::string& a, std::string& b, int n) {
   if (n >= 0 && n <= 64) return Zeph_Compare(a.c_str(), b.c_str(), n);
-  bool (*exported)(std::string&, std::string&, int) = Zeph_Compare;
-  __asm__("" : "+r"(exported));
-  return exported(a, b, n);
+  return zeph::exported<bool(std::string&, std::string&, int)>(Zeph_Compare)(a, b, n);
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare_L(const char* a, const char* b) {
@@ -1357,16 +1368,47 @@ ZEPH_FIRST_STEPS bool Zeph_Compare_L(const char* a, const char* b, int n) {
 
 ZEPH_FIRST_STEPS bool Zeph_Compare_L(std::string& a, std::string& b) {
   if (a.size() < 256) return Zeph_Compare_L(a.c_str(), b.c_str());
-  bool (*exported)(std::string&, std::string&) = Zeph_Compare_L;
-  __asm__("" : "+r"(exported));
-  return exported(a, b);
+  return zeph::exported<bool(std::string&, std::string&)>(Zeph_Compare_L)(a, b);
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare_L(std::string& a, std::string& b, int n) {
   if (n >= 0 && n < 256) return Zeph_Compare_L(a.c_str(), b.c_str(), n);
-  bool (*exported)(std::string&, std::string&, int) = Zeph_Compare_L;
-  __asm__("" : "+r"(exported));
-  return exported(a, b, n);
+  return zeph::exported<bool(std::string&, std::string&, int)>(Zeph_Compare_L)(a, b, n);
+}
+
+ZEPH_FIRST_STEPS void Zeph_Del_TailSpace(std::string& text) {
+  if (text.empty() || text.back() != ' ') return;
+  zeph::exported<void(std::string&)>(Zeph_Del_TailSpace)(text);
+}
+
+ZEPH_FIRST_STEPS void Zeph_Del_HeadSpace(std::string& text) {
+  if (text.empty() || text.front() != ' ') return;
+  zeph::exported<void(std::string&)>(Zeph_Del_HeadSpace)(text);
+}
+
+ZEPH_FIRST_STEPS void Zeph_Trimed(std::string& text) {
+  if (text.empty() || (text.front() != ' ' && text.back() != ' ')) return;
+  zeph::exported<void(std::string&)>(Zeph_Trimed)(text);
+}
+
+ZEPH_FIRST_STEPS void Zeph_String_Check(std::string& text) {
+  if (text.empty() || (text.front() != '"' && text.back() != '"')) return;
+  zeph::exported<void(std::string&)>(Zeph_String_Check)(text);
+}
+
+ZEPH_FIRST_STEPS void Zeph_Remove_QuoteMark(std::string& text) {
+  if (text.empty() || !(zeph::is_quote(text.front()) || zeph::is_quote(text.back()))) return;
+  zeph::exported<void(std::string&)>(Zeph_Remove_QuoteMark)(text);
+}
+
+ZEPH_FIRST_STEPS void Zeph_Remove_Bracket(std::string& text) {
+  if (text.empty() || !(zeph::is_opening(text.front()) || zeph::is_closing(text.back()))) return;
+  zeph::exported<void(std::string&)>(Zeph_Remove_Bracket)(text);
+}
+
+ZEPH_FIRST_STEPS void Zeph_Remove_HeadTail(std::string& text, char mark) {
+  if (text.empty() || (text.front() != mark && text.back() != mark)) return;
+  zeph::exported<void(std::string&, char)>(Zeph_Remove_HeadTail)(text, mark);
 }
 
 }  // namespace Orbane

@@ -11,11 +11,15 @@ const struct {
   const char* why;
   void (*bytes)(char*);
   void (*string)(std::string&);
+  void (*called)(std::string&);  // as a program does, by the first steps of the header
   bool head, tail;
 } trims[] = {
-    {"tail", Orbane::Zeph_Del_TailSpace, Orbane::Zeph_Del_TailSpace, false, true},
-    {"head", Orbane::Zeph_Del_HeadSpace, Orbane::Zeph_Del_HeadSpace, true, false},
-    {"both", Orbane::Zeph_Trimed, Orbane::Zeph_Trimed, true, true},
+    {"tail", Orbane::Zeph_Del_TailSpace, Orbane::Zeph_Del_TailSpace,
+     [](std::string& text) { Orbane::Zeph_Del_TailSpace(text); }, false, true},
+    {"head", Orbane::Zeph_Del_HeadSpace, Orbane::Zeph_Del_HeadSpace,
+     [](std::string& text) { Orbane::Zeph_Del_HeadSpace(text); }, true, false},
+    {"both", Orbane::Zeph_Trimed, Orbane::Zeph_Trimed,
+     [](std::string& text) { Orbane::Zeph_Trimed(text); }, true, true},
 };
 
 }  // namespace zeph_test
