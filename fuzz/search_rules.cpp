@@ -80,7 +80,15 @@ void slices(Draw& draw) {
             inside ? piece : std::string(1, GuardedBuffer::pattern));
   cut(in.data());
   EXPECT_EQ(in.data(), inside ? piece : text) << "the text as its own output";
+  using Piece = bool(const std::string&, int, int, std::string&);
   EXPECT_EQ(outcome(text, [&](auto& own) { return Zeph_Get_SubString(own, start, count, own); }),
+            inside   ? piece
+            : thrown ? "thrown"
+                     : "refused");
+  EXPECT_EQ(outcome(text,
+                    [&](auto& own) {
+                      return exported<Piece>(Zeph_Get_SubString)(own, start, count, own);
+                    }),
             inside   ? piece
             : thrown ? "thrown"
                      : "refused");

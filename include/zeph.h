@@ -1238,10 +1238,11 @@ ZEPH_API const char* Zeph_Get_SysErrMsg();
 
 /// @cond
 // First steps in the caller. Most comparisons end at the first byte, the others are one service of
-// the C library, and most Strings have no blank or mark to take off: the call into the shared
-// library would be most of what they cost. So compilers get these functions to put them in place of
-// the call. The results are those of the exported functions, which a function pointer, another
-// language or a debugger reach as ever. Define ZEPH_NO_INLINE to call the library always.
+// the C library, most Strings have no blank or mark to take off, and a piece behind the end is
+// refused: the call into the shared library would be most of what they cost. So compilers get these
+// functions to put them in place of the call. The results are those of the exported functions,
+// which a function pointer, another language or a debugger reach as ever. Define ZEPH_NO_INLINE to
+// call the library always.
 #if defined(__ELF__) && defined(__GNUC__) && !defined(ZEPH_BUILDING) && !defined(ZEPH_NO_INLINE)
 
 #define ZEPH_SERVICE __attribute__((visibility("default"))) ZEPH_NO_PLT
@@ -1374,6 +1375,13 @@ ZEPH_FIRST_STEPS bool Zeph_Compare_L(std::string& a, std::string& b) {
 ZEPH_FIRST_STEPS bool Zeph_Compare_L(std::string& a, std::string& b, int n) {
   if (n >= 0 && n < 256) return Zeph_Compare_L(a.c_str(), b.c_str(), n);
   return zeph::exported<bool(std::string&, std::string&, int)>(Zeph_Compare_L)(a, b, n);
+}
+
+ZEPH_FIRST_STEPS bool Zeph_Get_SubString(const std::string& text, int start, int count,
+                                         std::string& out) {
+  if (start >= 0 && static_cast<std::size_t>(start) >= text.size()) return false;
+  using Get = bool(const std::string&, int, int, std::string&);
+  return zeph::exported<Get>(Zeph_Get_SubString)(text, start, count, out);
 }
 
 ZEPH_FIRST_STEPS void Zeph_Del_TailSpace(std::string& text) {
