@@ -94,6 +94,7 @@ struct List {
   View text;
   char separator;
   SeparatorRun run;
+  char* room;  // as many bytes as the text has, and one more
 
   // Whether the bytes from `begin` to `end`, none of which is a separator, are a whole item.
   bool is_item(std::size_t begin, std::size_t end) const {
@@ -110,8 +111,7 @@ struct List {
 // The places of the separators, one after the other, found many at a look.
 class Separators {
  public:
-  Separators(const List& list, std::size_t from)
-      : text_(list.text), separator_(list.separator), looked_(from) {}
+  explicit Separators(const List& list) : text_(list.text), separator_(list.separator) {}
 
   // The size of the text behind the last one.
   std::size_t next() {
@@ -130,16 +130,17 @@ class Separators {
  private:
   View text_;
   char separator_;
-  std::size_t look_ = 0, looked_;
+  std::size_t look_ = 0, looked_ = 0;
   std::uint64_t places_ = 0;
 };
 
-// Item by item, from the one that starts at `begin` on.
+// Item by item.
 template <typename Value>
-int walk_to_item(const List& list, std::size_t begin, Value sought) {
+int walk_to_item(const List& list, Value sought) {
   const View text = list.text;
-  Separators separators(list, begin);
-  for (std::size_t index = list.items_before(begin); begin < text.size(); ++index) {
+  Separators separators(list);
+  std::size_t begin = 0;
+  for (std::size_t index = 0; begin < text.size(); ++index) {
     const std::size_t end = separators.next();
     if (sought.equals(text.substr(begin, end - begin))) return to_index(index);
     begin = end + 1;
@@ -210,34 +211,44 @@ bool is_plainly_first(const List& list, Value sought) {
   return sought.equals(front) && front.find(list.separator) == View::npos;
 }
 
-// The value is searched for as a whole, and the separators in front of it are counted. Where it
-// turns up inside of other items, these are looked at one by one from there on.
+// The first item behind `from` that is the value: one between two separators, or the last one. The
+// value with separators around it is put together in a work buffer, which has room for it.
+template <typename Value>
+int find_enclosed(const List& list, std::size_t from, Value sought) {
+  const View text = list.text, value = sought.value;
+  if (value.size() + 2 <= text.size()) {
+    char* const enclosed = list.room;
+    enclosed[0] = enclosed[value.size() + 1] = list.separator;
+    std::memcpy(enclosed + 1, value.data(), value.size());
+    const Value whole{{enclosed, value.size() + 2}};
+    const std::size_t found = whole.find_in(text.substr(from));
+    if (found != View::npos) return to_index(list.items_before(from + found + 1));
+  }
+  const std::size_t last = text.size() - value.size();
+  const bool there = list.is_item(last, text.size()) && sought.equals(text.substr(last));
+  return there ? to_index(list.items_before(last)) : -1;
+}
+
+// The value is searched for as a whole, and the separators in front of it are counted.
 template <typename Value>
 int find_item(const List& list, Value sought) {
   const View value = sought.value;
-  if (list.separator == '\0' || value.empty()) return walk_to_item(list, 0, sought);
+  if (list.separator == '\0' || value.empty()) return walk_to_item(list, sought);
   if (value.find(list.separator) != View::npos) return -1;
   if (list.text.size() < mask_bytes) return find_item_at_a_look(list, sought);
   const std::size_t begin = sought.find_in(list.text);
   if (begin == View::npos) return -1;
   if (list.is_item(begin, begin + value.size())) return to_index(list.items_before(begin));
-  // The item around that place is another one, and it is the first that holds the value.
-  const std::size_t separator = list.text.find(list.separator, begin);
-  if (separator == View::npos) return -1;
-  std::size_t next = separator + 1;
-  if (list.run == SeparatorRun::one_separator) {
-    next = std::min(list.text.find_first_not_of(list.separator, next), list.text.size());
-  }
-  return walk_to_item(list, next, sought);
+  return find_enclosed(list, begin, sought);
 }
 
 // The interface promises two work buffers, with a report for each that the heap refuses, and no
-// search without them. The search itself moves nothing and so needs no room of its own.
+// search without them. The search moves nothing: it needs little more than a value's room.
 template <typename Search>
 int search_with_buffers(const char* list, char separator, SeparatorRun run, Search search) {
   const View text(list);
   const WorkBuffers<2> work(text.size() + 1);
-  return work.complete() ? search(List{text, separator, run}) : -1;
+  return work.complete() ? search(List{text, separator, run, work[0]}) : -1;
 }
 
 int find_exact(const char* list_text, char separator, SeparatorRun run, const char* value) {
@@ -254,7 +265,7 @@ int find_folded(const char* list_text, char separator, SeparatorRun run, const c
     // A value in the other case must not run over a letter that separates.
     const bool letter = ascii_fold(LetterCase::lower, list.separator) !=
                         ascii_fold(LetterCase::upper, list.separator);
-    if (letter || !locale_folds_ascii(LetterCase::lower)) return walk_to_item(list, 0, sought);
+    if (letter || !locale_folds_ascii(LetterCase::lower)) return walk_to_item(list, sought);
     return find_item(list, sought);
   });
 }
