@@ -23,6 +23,16 @@ check_cxx_source_compiles("
   [[gnu::target(\"avx512bw\")]] __m512i load(const char* a) { return _mm512_maskz_loadu_epi8(1, a); }
   int main() { return __builtin_cpu_supports(\"avx512bw\") ? 0 : 1; }" ZEPH_FOUND_AVX512)
 
+# Old assemblers and compilers know AVX-512 without these.
+check_cxx_source_compiles("
+  #include <immintrin.h>
+  #if !defined(__x86_64__) || defined(_WIN32)
+  #error none
+  #endif
+  [[gnu::target(\"avx512vbmi,avx512vbmi2,avx512bw\")]] __m512i pack(__m512i a) {
+    return _mm512_maskz_compress_epi8(1, _mm512_permutexvar_epi8(a, a)); }
+  int main() { return __builtin_cpu_supports(\"avx512vbmi2\") ? 0 : 1; }" ZEPH_FOUND_AVX512_VBMI2)
+
 check_cxx_source_compiles("
   #include <cctype>
   int main() { return (*__ctype_tolower_loc())['A'] + (*__ctype_toupper_loc())['a']; }"
@@ -39,6 +49,10 @@ if(NOT ZEPH_PORTABLE)
       scan/find_needle_avx512.cpp scan/find_pair_avx512.cpp scan/move_bytes_avx512.cpp
       scan/same_text_avx512.cpp)
     list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_AVX512)
+  endif()
+  if(ZEPH_FOUND_AVX512_VBMI2)
+    list(APPEND ZEPH_SCAN_SOURCES scan/hex_numbers_avx512.cpp)
+    list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_AVX512_VBMI2)
   endif()
   if(ZEPH_FOUND_CTYPE_TABLES)
     list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_CTYPE_TABLES)

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "frame/owned_buffers.h"
+#include "scan/hex_numbers.h"
 #include "scan/hex_pairs.h"
 #include "zeph.h"
 
@@ -43,13 +44,31 @@ constexpr auto numbers = [] {
   return out;
 }
 
-// Blocks whose bytes all take two digits are pairs; the others go number by number.
+// How many take one digit. Counts of parts fit a byte, so that compilers add up many at a step.
+std::size_t count_short(const char* bytes, std::size_t size) {
+  constexpr std::size_t part = 240;
+  std::size_t count = 0;
+  for (std::size_t i = 0; i < size; i += part) {
+    const std::size_t end = std::min(i + part, size);
+    unsigned char here = 0;
+    for (std::size_t at = i; at < end; ++at)
+      here = static_cast<unsigned char>(here + has_one_digit(bytes[at]));
+    count += here;
+  }
+  return count;
+}
+
+// Blocks whose bytes all take two digits are pairs; the others go number by number where no wider
+// way takes them.
 std::string dump_long(const char* bytes, std::size_t size) {
-  const auto short_ones =
-      static_cast<std::size_t>(std::count_if(bytes, bytes + size, has_one_digit));
+  const std::size_t short_ones = count_short(bytes, size);
   std::string dump(3 * size - short_ones, '\0');
   char* out = dump.data();
-  for (std::size_t i = 0; i < size; i += block_size) {
+  std::size_t done = 0;
+#ifdef ZEPH_HAS_AVX512_VBMI2
+  if (short_ones > 0 && has_avx512_vbmi2()) done = put_hex_numbers_avx512(out, bytes, size);
+#endif
+  for (std::size_t i = done; i < size; i += block_size) {
     const std::size_t n = std::min(block_size, size - i);
     if (short_ones == 0 || std::none_of(bytes + i, bytes + i + n, has_one_digit)) {
       put_hex_pairs(HexDigits::lower, out, bytes + i, n);

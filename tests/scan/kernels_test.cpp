@@ -17,6 +17,7 @@
 #include "scan/find_byte.h"
 #include "scan/find_needle.h"
 #include "scan/find_pair.h"
+#include "scan/hex_numbers.h"
 #include "scan/hex_pairs.h"
 #include "scan/last_byte.h"
 #include "scan/move_bytes.h"
@@ -93,6 +94,29 @@ TEST(Kernels, FoldsAndHexPairs) {
 #endif
   });
 }
+
+#ifdef ZEPH_HAS_AVX512_VBMI2
+// As few digits as a byte takes; the last bytes give the room that the stores need.
+TEST(Kernels, HexNumbers) {
+  if (!zeph::has_avx512_vbmi2()) GTEST_SKIP() << "takes a processor with AVX-512 VBMI2";
+  each_size([](Draw& draw, std::size_t size) {
+    const std::string bytes =
+        draw.yes() ? draw.bytes(0) : draw.text(0, std::string_view("\0\xF\x10z", 4));
+    const std::size_t done = size < 32 ? 0 : size / 16 * 16 - 16;
+    std::string numbers;
+    std::size_t length = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+      numbers += printed("%x ", bytes[i] & 0xFF);
+      if (i + 1 == done) length = numbers.size();
+    }
+    const GuardedText in(bytes, End::bare);
+    const GuardedBuffer out(numbers.size());
+    char* end = out.data();
+    ASSERT_EQ(zeph::put_hex_numbers_avx512(end, in.data(), size), done);
+    ASSERT_EQ(std::string(out.data(), end), numbers.substr(0, length));
+  });
+}
+#endif
 
 // How far two texts are known to be alike: up to their difference or end, less than a step short of
 // it.
