@@ -10,13 +10,20 @@ using namespace Orbane;
 using namespace zeph_test;
 using Fields = std::vector<std::string>;
 
-TEST(Fields, ListsThatShareTheirItems) {
+TEST(Fields, Lists) {
   Fields own = {"a", "b", "c"}, list = {"x", "a,b,,c,d,e"};
   Zeph_Join(own, '\0', own[1]);
   EXPECT_EQ(own[1], std::string("a\0\0c", 4)) << "an output that is an item joins as empty";
   list.shrink_to_fit();
   Zeph_Split(list[1], ',', list);
   EXPECT_EQ(list, (Fields{"x", "a,b,,c,d,e", "a", "b", "c", "d", "e"})) << "an item of the list";
+  const std::string value(64, 'v'), around = 'x' + value;
+  EXPECT_EQ(Zeph_Seperate_Char_Get_Index(around.c_str(), ',', value.c_str()), -1) << "one item";
+  std::string roomy;
+  roomy.reserve(2000);
+  const Fields two(2, std::string(300, 'i'));
+  Zeph_Join(two, '|', roomy);
+  EXPECT_EQ(roomy, two[0] + '|' + two[1]);
   static const std::string in_front = "f";  // of the heap, as an address
   Zeph_Split(in_front, ',', own);
   EXPECT_EQ(own.back(), "f");

@@ -72,6 +72,9 @@ TEST(Splicing, SizeBoundsTheText) {
         << size;
   }
   EXPECT_EQ(Zeph_Splicing(3000, "%s%c%s", longer.c_str(), 0, "y"), longer);
+  const std::string piece(2100, 'p');  // the third one finds the room that the second one made
+  EXPECT_EQ(Zeph_Splicing(8192, "%s%s%s", piece.c_str(), piece.c_str(), piece.c_str()),
+            piece + piece + piece);
   for (const int size : {1000, 3000}) {
     EXPECT_EQ(Zeph_Splicing(size, "text%ls", L"\x4E2D").substr(0, 4), "text")
         << "a print that fails leaves what it has";
