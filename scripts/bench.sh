@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # bench.sh [--quick]: installs the peers, builds Release, measures every family against them and
-# writes docs/benchmarks.md and docs/benchmarks.svg: three runs, some ten minutes. With --quick one
+# writes docs/benchmarks.md and docs/benchmarks.svg: three runs, some fifteen minutes. With --quick one
 # short run whose page stands in build/bench, under a minute without the build.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
