@@ -412,8 +412,10 @@ ZEPH_API void Zeph_Right(const std::string& text, char marker, std::string& out)
 ///
 /// The String forms read the object up to its first zero byte, run the byte text form on work
 /// buffers of `limit + 1` bytes, one for each field, and then replace the outputs; an output may be
-/// the input object. If the heap refuses a work buffer, each refusal is reported as "[Zeph] Memory
-/// calloc Fail in Zeph_Prepare_Mem", and all outputs keep what they held.
+/// the input object. The buffers are requested in order; unless an output is the input object, each
+/// is given back before the next one is requested. If the heap refuses a work buffer, each refusal
+/// is reported as "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem", and all outputs keep what they
+/// held.
 ///
 /// A `limit` below 1 makes every field the empty text, which takes one byte of each output.
 ///
@@ -569,9 +571,9 @@ ZEPH_API void Zeph_Seperate_Char_With_Index(const char* text, char delimiter, ch
 /// `int` is told as the largest one. Items compare as in Zeph_Compare(), those of the members with
 /// `_L` as in Zeph_Compare_L().
 ///
-/// Takes two work buffers of the list's length + 1 bytes. If the heap refuses one, each refusal is
-/// reported as "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem", and the result is -1. The time is
-/// proportional to the list's length.
+/// Takes two work buffers of the list's length + 1 bytes, one after the other. If the heap refuses
+/// one, each refusal is reported as "[Zeph] Memory calloc Fail in Zeph_Prepare_Mem", and the result
+/// is -1. The time is proportional to the list's length.
 ///
 ///     Orbane::Zeph_Seperate_Char_Get_Index("idle,run,down", ',', "run");  // 1
 ///@{

@@ -149,14 +149,14 @@ template <typename Split, typename... Strings>
 void split_into_strings(const std::string& text, int limit, Split split, Strings&... outputs) {
   constexpr std::size_t count = sizeof...(Strings);
   const std::size_t room = field_limit(limit);
-  const WorkBuffers<count> work(room + 1);
-  if (!work.complete()) return;
   if (((&outputs == &text) || ...)) {
+    const WorkBuffers<count> work(room + 1);
+    if (!work.complete()) return;
     FieldWriter fields(work.data(), count, room);
     split(text.c_str(), fields);
     std::size_t next = 0;
     ((outputs = work[next++]), ...);
-  } else {
+  } else if (heap_grants(count, room + 1)) {
     std::string* const strings[] = {&outputs...};
     FieldStrings fields(strings, count, room, text.c_str() + text.size());
     split(text.c_str(), fields);

@@ -243,12 +243,13 @@ int find_item(const List& list, Value sought) {
 }
 
 // The interface promises two work buffers, with a report for each that the heap refuses, and no
-// search without them. The search moves nothing: it needs little more than a value's room.
+// search without them. The search moves nothing: it needs little more than a value's room, in one.
 template <typename Search>
 int search_with_buffers(const char* list, char separator, SeparatorRun run, Search search) {
   const View text(list);
-  const WorkBuffers<2> work(text.size() + 1);
-  return work.complete() ? search(List{text, separator, run, work[0]}) : -1;
+  const bool granted = heap_grants(1, text.size() + 1);
+  const WorkBuffers<1> work(text.size() + 1);
+  return granted && work.complete() ? search(List{text, separator, run, work[0]}) : -1;
 }
 
 int find_exact(const char* list_text, char separator, SeparatorRun run, const char* value) {

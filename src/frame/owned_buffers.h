@@ -32,6 +32,19 @@ void release_block(char*& block);
 // its place otherwise. Reports a refusal of the heap, or a block that it does not know.
 bool prepare_block(char*& block, std::size_t size);
 
+// Makes `count` requests that an interface has promised, for a function that needs no room: each
+// block is given back at once, so that no more than one is held. Returns whether none was refused.
+inline bool heap_grants(std::size_t count, std::size_t size) {
+  bool granted = true;
+  for (; count > 0; --count) {
+    char* const block = request_block(size);
+    if (!block) report_refused_work_buffer();
+    granted = granted && block != nullptr;
+    std::free(block);
+  }
+  return granted;
+}
+
 // `count` work buffers of one size that live inside one call. They are requested and freed in
 // order; each refused request is reported and the others are made all the same.
 template <std::size_t count>
