@@ -1293,29 +1293,58 @@ ZEPH_STEP bool is_closing(char byte) {
   return byte == ')' || byte == ']' || byte == '}' || byte == '>';
 }
 
+// What two Strings of one size show at a glance: all bits in which they differ, and a bit for a
+// zero byte, which may end both texts in front of the difference.
+struct Glance {
+  unsigned long long difference, zeros;
+};
+
 ZEPH_STEP unsigned long long eight_bytes(const char* from) {
   unsigned long long word;
   __builtin_memcpy(&word, from, 8);
   return word;
 }
 
-// Has the highest bit of some byte if any of the eight bytes is zero, and then alone.
-ZEPH_STEP unsigned long long zero_among(unsigned long long word) {
-  return (word - 0x0101010101010101ULL) & ~word;
+// For 8 to 16 bytes: the first and the last word.
+ZEPH_STEP Glance glance_at_words(const char* a, const char* b, std::size_t size) {
+  const unsigned long long first = eight_bytes(a), last = eight_bytes(a + size - 8);
+  const unsigned long long difference =
+      (first ^ eight_bytes(b)) | (last ^ eight_bytes(b + size - 8));
+  const unsigned long long ones = 0x0101010101010101ULL;
+  return {difference, (((first - ones) & ~first) | ((last - ones) & ~last)) & (ones << 7)};
 }
 
-// For 16 to 32 bytes of two Strings: 1 if they are equal, 0 if the texts differ, -1 if a zero byte
-// may end both texts in front of the difference.
-ZEPH_STEP int likeness(const char* a, const char* b, std::size_t size) {
-  const std::size_t places[] = {0, 8, size - 16, size - 8};
-  unsigned long long difference = 0, zeros = 0;
-  for (const std::size_t at : places) {
-    const unsigned long long word = eight_bytes(a + at);
-    difference |= word ^ eight_bytes(b + at);
-    zeros |= zero_among(word);
+typedef unsigned char Vector __attribute__((__vector_size__(16)));
+
+ZEPH_STEP unsigned long long lanes_of(const Vector& bytes) {
+  unsigned long long lanes[2];
+  __builtin_memcpy(lanes, &bytes, 16);
+  return lanes[0] | lanes[1];
+}
+
+// The same, gathered from pieces of 16 bytes.
+struct VectorGlance {
+  Vector difference, zeros;
+
+  ZEPH_STEP void add(const char* a, const char* b) {
+    Vector x, y;
+    __builtin_memcpy(&x, a, 16);
+    __builtin_memcpy(&y, b, 16);
+    difference |= x ^ y;
+    zeros |= reinterpret_cast<Vector>(x == 0);
   }
-  if (difference == 0) return 1;
-  return __builtin_expect((zeros & 0x8080808080808080ULL) != 0, 0) ? -1 : 0;
+};
+
+// For 16 to 64 bytes: from the front and from the back.
+ZEPH_STEP Glance glance_at_vectors(const char* a, const char* b, std::size_t size) {
+  VectorGlance glance = {};
+  glance.add(a, b);
+  if (__builtin_expect(size > 32, 0)) {
+    glance.add(a + 16, b + 16);
+    glance.add(a + size - 32, b + size - 32);
+  }
+  glance.add(a + size - 16, b + size - 16);
+  return {lanes_of(glance.difference), lanes_of(glance.zeros)};
 }
 
 }  // namespace zeph
@@ -1346,17 +1375,24 @@ ZEPH_FIRST_STEPS bool Zeph_Compare(const char* a, const char* b, int n) {
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare(std::string& a, std::string& b) {
-  if (zeph::first_bytes_differ(a.c_str(), b.c_str())) return false;
-  if (a.size() < 16) return zeph::zeph_strcmp(a.c_str(), b.c_str()) == 0;
-  if (a.size() == b.size() && a.size() <= 32) {
-    const int likeness = zeph::likeness(a.data(), b.data(), a.size());
-    if (likeness >= 0) return likeness != 0;
+  if (*a.c_str() != *b.c_str()) return false;
+  const std::size_t size = a.size();
+  if (__builtin_expect(size == b.size() && size - 8 <= 56, 1)) {
+    const zeph::Glance glance = size < 16 ? zeph::glance_at_words(a.data(), b.data(), size)
+                                          : zeph::glance_at_vectors(a.data(), b.data(), size);
+    if (__builtin_expect((glance.difference == 0) | (glance.zeros == 0), 1)) {
+      return glance.difference == 0;
+    }
   }
+  if (size <= 64) return zeph::zeph_strcmp(a.c_str(), b.c_str()) == 0;
   return zeph::exported<bool(std::string&, std::string&)>(Zeph_Compare)(a, b);
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare(std::string& a, std::string& b, int n) {
-  if (n >= 0 && n <= 64) return Zeph_Compare(a.c_str(), b.c_str(), n);
+  if (__builtin_expect(n != 0, 1) && zeph::first_bytes_differ(a.c_str(), b.c_str())) return false;
+  if (n >= 0 && n <= 64) {
+    return zeph::zeph_strncmp(a.c_str(), b.c_str(), static_cast<std::size_t>(n)) == 0;
+  }
   return zeph::exported<bool(std::string&, std::string&, int)>(Zeph_Compare)(a, b, n);
 }
 
@@ -1370,12 +1406,20 @@ ZEPH_FIRST_STEPS bool Zeph_Compare_L(const char* a, const char* b, int n) {
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare_L(std::string& a, std::string& b) {
-  if (a.size() < 256) return Zeph_Compare_L(a.c_str(), b.c_str());
+  if (zeph::first_bytes_never_fold_alike(a.c_str(), b.c_str())) return false;
+  if (__builtin_expect(a.size() < 256, 1)) {
+    return zeph::zeph_strcasecmp(a.c_str(), b.c_str()) == 0;
+  }
   return zeph::exported<bool(std::string&, std::string&)>(Zeph_Compare_L)(a, b);
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare_L(std::string& a, std::string& b, int n) {
-  if (n >= 0 && n < 256) return Zeph_Compare_L(a.c_str(), b.c_str(), n);
+  if (__builtin_expect(n != 0, 1) && zeph::first_bytes_never_fold_alike(a.c_str(), b.c_str())) {
+    return false;
+  }
+  if (n >= 0 && n < 256) {
+    return zeph::zeph_strncasecmp(a.c_str(), b.c_str(), static_cast<std::size_t>(n)) == 0;
+  }
   return zeph::exported<bool(std::string&, std::string&, int)>(Zeph_Compare_L)(a, b, n);
 }
 
