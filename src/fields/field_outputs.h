@@ -58,6 +58,7 @@ class FieldWriter {
   }
   // The same where the limit ends a field, too. It is fastest within the `near` first bytes.
   const char* put_within_limit(const char* from, char separator, std::size_t near) {
+    if (near > long_field) return put_long(from, separator);
     const char* const end = find_byte_or_end(from, separator, limit_, near);
     put(from, end);
     return end;
@@ -72,6 +73,22 @@ class FieldWriter {
   }
 
  private:
+  static constexpr std::size_t long_field = 4096;
+
+  // Copies a field while its end is looked for, in pieces that the nearest cache still has when
+  // they are read the second time.
+  const char* put_long(const char* from, char separator) {
+    constexpr std::size_t piece = 8192;
+    char* const out = *next_++;
+    std::size_t size = 0;
+    for (std::size_t kept = piece; kept == piece; size += kept) {
+      const std::size_t here = strnlen(from + size, std::min(piece, limit_ - size));
+      kept = copy_text(out + size, from + size, here, separator);
+    }
+    out[size] = '\0';
+    return from + size;
+  }
+
   char* const* next_;
   char* const* end_;
   std::size_t limit_;
