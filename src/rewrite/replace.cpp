@@ -11,6 +11,7 @@
 #include "rewrite/gap_text.h"
 #include "rewrite/near_occurrences.h"
 #include "rewrite/occurrences.h"
+#include "scan/count_byte.h"
 #include "scan/find_byte.h"
 #include "scan/remove_byte.h"
 #include "scan/short_length.h"
@@ -59,17 +60,42 @@ std::size_t rewrite_onward(Occurrences& occurrences, const GapText& text, View r
   return gap.done;
 }
 
+// Whether three equal bytes stand in a text side by side: of the pairs in there each one takes
+// another along.
+bool has_triple(View text, char byte) {
+  const char triple[] = {byte, byte, byte};
+  return find_needle(text, View(triple, sizeof triple)) != View::npos;
+}
+
+// How many occurrences a text has. Those of one or two bytes are mostly counted without a look at
+// each.
+std::size_t count_occurrences(View text, View pattern) {
+  const char first = pattern[0], last = pattern.back();
+  if (pattern.size() == 1) return count_byte(text.data(), text.size(), first);
+  if (pattern.size() == 2 && !text.empty() && (first != last || !has_triple(text, first))) {
+    return count_pairs(text.data(), text.size() - 1, first, last);
+  }
+  Occurrences occurrences(text, pattern);
+  std::size_t count = 0, from = 0;
+  for (std::size_t at; (at = occurrences.next(from)) != Occurrences::none; ++count) {
+    from = at + pattern.size();
+  }
+  return count;
+}
+
 // The occurrences of a pattern: how many, and where the first ones stand.
 struct Places {
   static constexpr std::size_t most = 256;
 
   std::size_t count, first[most];
 
-  explicit Places(Occurrences& occurrences) : count(0) {
-    for (std::size_t from = 0, at; (at = occurrences.next(from)) != Occurrences::none; ++count) {
-      if (count < most) first[count] = at;
+  Places(View text, Occurrences& occurrences) : count(0) {
+    std::size_t from = 0;
+    for (std::size_t at; count < most && (at = occurrences.next(from)) != Occurrences::none;) {
+      first[count++] = at;
       from = at + occurrences.pattern().size();
     }
+    if (count == most) count += count_occurrences(text.substr(from), occurrences.pattern());
   }
 };
 
@@ -219,7 +245,7 @@ std::size_t grow_again(Occurrences& occurrences, char* text, std::size_t size, V
   if (!stands_apart(pattern, replacement)) {
     return rewrite_on_heap(text, size, pattern, replacement);
   }
-  const Places places(occurrences);
+  const Places places({text, size}, occurrences);
   replace_by_longer(text, size, places, pattern, replacement);
   return size + places.count * (replacement.size() - pattern.size());
 }
@@ -311,7 +337,7 @@ void replace_in_bytes(char* text, const char* pattern, const char* replacement) 
 // Goes on behind the replacement, which is longer.
 void grow_onward(std::string& text, Occurrences& occurrences, View replacement) {
   const std::size_t size = text.size();
-  const Places places(occurrences);
+  const Places places(text, occurrences);
   const View pattern = occurrences.pattern();
   text.resize(size + places.count * (replacement.size() - pattern.size()));
   replace_by_longer(text.data(), size, places, pattern, replacement);
