@@ -362,10 +362,19 @@ void replace_in_string(std::string& text, View pattern, const std::string& repla
   text.resize(shrink_again(occurrences, text.data(), text.size(), {}));
 }
 
+// No first of a pair stands in front of the place where the walk begins.
+[[gnu::noinline]] void remove_pairs(std::string& text, const char* pair) {
+  const std::size_t from = text.find(pair[0]);
+  if (from == std::string::npos) return;
+  text.resize(from + cut_few_pairs(text.data() + from, text.size() - from, pair));
+}
+
 void remove_from_string(std::string& text, View pattern) {
-  constexpr std::size_t few = 16;
+  constexpr std::size_t few = 16, some = 32;
   if (pattern.size() == 2 && text.size() <= few) {
     text.resize(cut_few_pairs(text.data(), text.size(), pattern.data()));
+  } else if (pattern.size() == 2 && text.size() <= some) {
+    remove_pairs(text, pattern.data());
   } else if (!pattern.empty()) {
     remove_pattern(text, pattern);
   }
