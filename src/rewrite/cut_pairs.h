@@ -84,23 +84,26 @@ inline const char* behind_pairs(const char* from, char first, char second) {
 [[gnu::noinline]] inline void cut_close_pairs(char* text, std::size_t at, const char* pair) {
   constexpr std::size_t near = 64, step = 8;
   const char first = pair[0], second = pair[1];
-  char* top = text + at;
-  const char* from = top + 2;
-  while (static_cast<std::size_t>(from - text) - at < near) {
-    std::size_t n = 0;
-#pragma GCC unroll 8
-    for (; n < step; ++n) {
-      if (from[n] == second && top + n != text && top[n - 1] == first) break;
-      if ((top[n] = from[n]) == '\0') return;
-    }
-    top += n;
-    from += n;
-    if (n == step) continue;
+  char* top = text + at + 1;
+  for (const char* from = top;;) {
     --top;
     from = behind_pairs(from + 1, first, second);
     for (; *from == second && top != text && top[-1] == first; ++from) --top;
+    std::size_t n;
+    do {
+      if (static_cast<std::size_t>(from - text) - at >= near) {
+        return cut_far_pairs(text, top, from, pair);
+      }
+      n = 0;
+#pragma GCC unroll 8
+      for (; n < step; ++n) {
+        if (from[n] == second && top + n != text && top[n - 1] == first) break;
+        if ((top[n] = from[n]) == '\0') return;
+      }
+      top += n;
+      from += n;
+    } while (n == step);
   }
-  cut_far_pairs(text, top, from, pair);
 }
 
 // The first place at `from` or behind it where the first of the pair stands may be far away.
