@@ -43,7 +43,10 @@ std::string onward(std::string text, const std::string& pattern, const std::stri
 // A String, which may be the pattern or the replacement too.
 void pieces_onward(Draw& draw) {
   const std::string_view letters("ab\0\xC4", draw.yes() ? 2 : 4);
-  const std::string text = draw.yes() ? draw.text(200, letters) : rewritten_text(draw);
+  std::string text = draw.yes() ? draw.text(200, letters) : rewritten_text(draw);
+  if (!text.empty() && draw.below(8) == 0) {  // hundreds of occurrences
+    while (text.size() < 1500) text += text;
+  }
   const std::string pattern = draw.piece(4, letters), replacement = draw.piece(9, letters);
   std::string string = text, from = pattern, to = replacement;
   Zeph_Replace(string, pattern, replacement);

@@ -74,40 +74,63 @@ inline std::size_t cut_few_pairs(char* text, std::size_t size, const char* pair)
 }
 
 // Behind the pairs that stand side by side at `from`.
-inline char* behind_pairs(char* from, char first, char second) {
+inline const char* behind_pairs(const char* from, char first, char second) {
   while (from[0] == first && from[1] == second) from += 2;
   return from;
 }
 
-// `from` is the first byte that is the first of the pair. The next bytes are gone through one by
-// one: that needs no length, and no search, which a short text would not repay.
-[[gnu::noinline]] inline void cut_near_pairs(char* text, char* from, const char* pair) {
-  constexpr std::ptrdiff_t near = 64;
+// The first pair stands at text[at]. From there on the bytes go to the top of what is left of the
+// text, and the second of a pair takes its first away from there.
+[[gnu::noinline]] inline void cut_close_pairs(char* text, std::size_t at, const char* pair) {
+  constexpr std::size_t near = 64, step = 8;
   const char first = pair[0], second = pair[1];
-  for (std::ptrdiff_t seen = 0; from[0] != first || from[1] != second; ++from, ++seen) {
-    if (*from == '\0') return;
-    if (seen == near) return cut_far_pairs(text, from, from, pair);
+  char* top = text + at + 1;
+  for (const char* from = top;;) {
+    --top;
+    from = behind_pairs(from + 1, first, second);
+    for (; *from == second && top != text && top[-1] == first; ++from) --top;
+    std::size_t n;
+    do {
+      if (static_cast<std::size_t>(from - text) - at >= near) {
+        return cut_far_pairs(text, top, from, pair);
+      }
+      n = 0;
+#pragma GCC unroll 8
+      for (; n < step; ++n) {
+        if (from[n] == second && top + n != text && top[n - 1] == first) break;
+        if ((top[n] = from[n]) == '\0') return;
+      }
+      top += n;
+      from += n;
+    } while (n == step);
   }
-  // From the first pair on the bytes go to the top of what is left of the text, and the second of a
-  // pair takes its first away from there, as long as there is one every few bytes.
-  constexpr std::ptrdiff_t quiet = 24;
-  char* top = from;
-  from = behind_pairs(from, first, second);
-  for (const char* last = from; from - last <= quiet; ++from, ++top) {
-    while (*from == second && top != text && top[-1] == first) {
-      for (; *from == second && top != text && top[-1] == first; ++from) --top;
-      last = from = behind_pairs(from, first, second);
-    }
-    if ((*top = *from) == '\0') return;
-  }
-  cut_far_pairs(text, top, from, pair);
 }
 
-// Cuts a pair out of a byte text. The ways stand apart, so that none saves registers for another.
+// The first place at `from` or behind it where the first of the pair stands may be far away.
+[[gnu::noinline]] inline void cut_pairs_behind(char* text, std::size_t from, const char* pair) {
+  constexpr std::size_t near = 64;
+  if (text[from] != pair[0]) {
+    from = static_cast<std::size_t>(find_byte_or_end(text + from, pair[0]) - text);
+  }
+  for (std::size_t i = from; text[i] != '\0'; ++i) {
+    if (text[i] == pair[0] && text[i + 1] == pair[1]) return cut_close_pairs(text, i, pair);
+    if (i - from == near) return cut_far_pairs(text, text + i, text + i, pair);
+  }
+}
+
+// Cuts a pair out of a byte text. The first bytes are gone through one by one: that needs no length
+// and no call, which a short text would not repay, and does not wait for bytes that have just been
+// written. The ways stand apart, so that none saves registers for another.
 inline void cut_pairs_in_bytes(char* text, const char* pair) {
-  if (*text == pair[0]) return cut_near_pairs(text, text, pair);
-  char* const from = text + (find_byte_or_end(text, pair[0]) - text);
-  if (*from != '\0') cut_near_pairs(text, from, pair);
+  constexpr std::size_t near = 16;
+  const char first = pair[0], second = pair[1];
+  for (std::size_t i = 0; i < near; ++i) {
+    if (text[i] == second && i != 0 && text[i - 1] == first) {
+      return cut_close_pairs(text, i - 1, pair);
+    }
+    if (text[i] == '\0') return;
+  }
+  cut_pairs_behind(text, near - 1, pair);
 }
 
 }  // namespace zeph

@@ -41,7 +41,11 @@ class Occurrences {
 
   // Whether there is any. Where its first byte does not stand at all, that decides.
   bool any() {
-    if (count_ <= mask_bytes / 4) return any_from(0);
+    if (count_ <= mask_bytes / 4) {
+      std::size_t near = 0;
+      while (near < count_ && text_[near] != pattern_[0]) ++near;
+      return near < count_ && any_from(near);
+    }
     const void* const first = std::memchr(text_.data(), pattern_[0], count_);
     if (!first) return false;
     return any_from(static_cast<std::size_t>(static_cast<const char*>(first) - text_.data()));

@@ -9,7 +9,9 @@
 
 #include "rewrite/cut_pairs.h"
 #include "rewrite/gap_text.h"
+#include "rewrite/near_occurrences.h"
 #include "rewrite/occurrences.h"
+#include "scan/count_byte.h"
 #include "scan/find_byte.h"
 #include "scan/remove_byte.h"
 #include "scan/short_length.h"
@@ -37,13 +39,12 @@ void replace_bytes(char* text, std::size_t size, char find, char replacement) {
   }
 }
 
-// Goes on behind each replacement: the `size` bytes at `text + from` become bytes at `text`.
-// Returns the new size. What is written never reaches the bytes that are still to be searched: the
-// replacement is no longer than the pattern, or `from` is all that the text grows.
-std::size_t rewrite_onward(Occurrences& occurrences, char* text, std::size_t from, std::size_t size,
-                           View replacement) {
-  const std::size_t step = occurrences.pattern().size();
-  GapText gap{text, 0, from, from + size};
+// Goes on behind each replacement. The occurrences are those in the rest behind the gap. Returns
+// the new size. What is written never reaches the bytes that are still to be searched: the
+// replacement is no longer than the pattern, or the gap is all that the text grows.
+std::size_t rewrite_onward(Occurrences& occurrences, const GapText& text, View replacement) {
+  GapText gap = text;
+  const std::size_t from = gap.rest, step = occurrences.pattern().size();
   for (std::size_t at; (at = occurrences.next(gap.rest - from)) != Occurrences::none;) {
     const std::size_t n = from + at - gap.rest;
     if (n != 0) gap.pass(n);
@@ -59,46 +60,86 @@ std::size_t rewrite_onward(Occurrences& occurrences, char* text, std::size_t fro
   return gap.done;
 }
 
+// Whether three equal bytes stand in a text side by side: of the pairs in there each one takes
+// another along.
+bool has_triple(View text, char byte) {
+  const char triple[] = {byte, byte, byte};
+  return find_needle(text, View(triple, sizeof triple)) != View::npos;
+}
+
+// How many occurrences a text has. Those of one or two bytes are mostly counted without a look at
+// each.
+std::size_t count_occurrences(View text, View pattern) {
+  const char first = pattern[0], last = pattern.back();
+  if (pattern.size() == 1) return count_byte(text.data(), text.size(), first);
+  if (pattern.size() == 2 && !text.empty() && (first != last || !has_triple(text, first))) {
+    return count_pairs(text.data(), text.size() - 1, first, last);
+  }
+  Occurrences occurrences(text, pattern);
+  std::size_t count = 0, from = 0;
+  for (std::size_t at; (at = occurrences.next(from)) != Occurrences::none; ++count) {
+    from = at + pattern.size();
+  }
+  return count;
+}
+
 // The occurrences of a pattern: how many, and where the first ones stand.
 struct Places {
   static constexpr std::size_t most = 256;
 
   std::size_t count, first[most];
 
-  explicit Places(Occurrences& occurrences) : count(0) {
-    for (std::size_t from = 0, at; (at = occurrences.next(from)) != Occurrences::none; ++count) {
-      if (count < most) first[count] = at;
+  Places(View text, Occurrences& occurrences) : count(0) {
+    std::size_t from = 0;
+    for (std::size_t at; count < most && (at = occurrences.next(from)) != Occurrences::none;) {
+      first[count++] = at;
       from = at + occurrences.pattern().size();
     }
+    if (count == most) count += count_occurrences(text.substr(from), occurrences.pattern());
   }
 };
 
-// Each occurrence becomes the longer replacement, in a buffer with the room. A few are done from
-// the right to the left, so that each byte moves once. For many the text is moved up by all that it
-// grows and rewritten from there.
-void replace_by_longer(char* text, std::size_t size, const Places& places, View pattern,
-                       View replacement) {
-  std::size_t growth = places.count * (replacement.size() - pattern.size());
-  if (places.count > Places::most) {
-    std::memmove(text + growth, text, size);
-    Occurrences occurrences({text + growth, size}, pattern);
-    rewrite_onward(occurrences, text, growth, size, replacement);
-    return;
-  }
-  for (std::size_t i = places.count, end = size; i-- > 0; end = places.first[i]) {
-    const std::size_t behind = places.first[i] + pattern.size();
+// The occurrences at `count` places become the longer replacement, in a buffer with the room, from
+// the right to the left, so that each byte moves once. Returns the new size.
+std::size_t replace_at_places(char* text, std::size_t size, const std::size_t* places,
+                              std::size_t count, View pattern, View replacement) {
+  const std::size_t step = replacement.size() - pattern.size();
+  std::size_t growth = count * step;
+  for (std::size_t i = count, end = size; i-- > 0; end = places[i]) {
+    const std::size_t behind = places[i] + pattern.size();
     move_bytes(text + behind + growth, text + behind, end - behind);
-    growth -= replacement.size() - pattern.size();
-    put(text + places.first[i] + growth, replacement);
+    growth -= step;
+    put(text + places[i] + growth, replacement);
   }
+  return size + count * step;
 }
 
-// Patterns and replacements are mostly a few bytes long, which does not repay a search.
+// All occurrences. For many the text is moved up by all that it grows and rewritten from there.
+void replace_by_longer(char* text, std::size_t size, const Places& places, View pattern,
+                       View replacement) {
+  if (places.count <= Places::most) {
+    replace_at_places(text, size, places.first, places.count, pattern, replacement);
+    return;
+  }
+  const std::size_t growth = places.count * (replacement.size() - pattern.size());
+  std::memmove(text + growth, text, size);
+  Occurrences occurrences({text + growth, size}, pattern);
+  rewrite_onward(occurrences, {text, 0, growth, growth + size}, replacement);
+}
+
+// Patterns and replacements are mostly a few bytes long, and differ early: that does not repay a
+// wide comparison, nor a search.
+bool same_early(const char* a, const char* b, std::size_t size) {
+  std::size_t i = 0;
+  while (i < size && a[i] == b[i]) ++i;
+  return i == size;
+}
+
 bool contains(View text, View pattern) {
   constexpr std::size_t near = 16;
   if (text.size() > near) return find_needle(text, pattern) != View::npos;
   for (; text.size() >= pattern.size(); text.remove_prefix(1)) {
-    if (same_short_bytes(text.data(), pattern.data(), pattern.size())) return true;
+    if (same_early(text.data(), pattern.data(), pattern.size())) return true;
   }
   return false;
 }
@@ -113,8 +154,8 @@ bool stands_apart(View pattern, View replacement) {
   const char* const pattern_end = pattern.data() + pattern.size();
   const char* const replacement_end = replacement.data() + replacement.size();
   for (std::size_t n = 1; n <= most; ++n) {
-    if (same_short_bytes(replacement.data(), pattern_end - n, n)) return false;
-    if (same_short_bytes(replacement_end - n, pattern.data(), n)) return false;
+    if (same_early(replacement.data(), pattern_end - n, n)) return false;
+    if (same_early(replacement_end - n, pattern.data(), n)) return false;
   }
   return true;
 }
@@ -183,7 +224,7 @@ std::size_t shrink_again(Occurrences& occurrences, char* text, std::size_t size,
   const View pattern = occurrences.pattern();
   if (pattern.size() == 2 && replacement.empty()) return cut_pairs(occurrences, {text, 0, 0, size});
   if (stands_apart(pattern, replacement)) {
-    return rewrite_onward(occurrences, text, 0, size, replacement);
+    return rewrite_onward(occurrences, {text, 0, 0, size}, replacement);
   }
   if (pattern.size() > short_pattern) return rewrite_long_again(text, size, pattern, replacement);
   return rewrite_again(occurrences, text, size, replacement);
@@ -197,33 +238,93 @@ std::size_t rewrite_on_heap(char* text, std::size_t size, View pattern, View rep
   return rewriting.result().size();
 }
 
-// The same with a replacement that is not shorter. Returns the new size.
+// The same with a replacement that is not shorter, and does not hold the pattern. Returns the new
+// size.
 std::size_t grow_again(Occurrences& occurrences, char* text, std::size_t size, View replacement) {
   const View pattern = occurrences.pattern();
-  if (contains(replacement, pattern)) return size;
   if (!stands_apart(pattern, replacement)) {
     return rewrite_on_heap(text, size, pattern, replacement);
   }
-  const Places places(occurrences);
+  const Places places({text, size}, occurrences);
   replace_by_longer(text, size, places, pattern, replacement);
   return size + places.count * (replacement.size() - pattern.size());
 }
 
-// A text without an occurrence is not written to, not even its terminator. The pattern is not
-// empty.
-[[gnu::noinline]] void replace_pattern(char* text, const char* pattern, const char* replacement) {
-  const View from(pattern, short_length(pattern));
-  const char* const first = *text == from[0] ? text : find_byte_or_end(text, from[0]);
-  if (*first == '\0') return;
-  const auto front = static_cast<std::size_t>(first - text);
-  const std::size_t size = front + std::strlen(first);
-  Occurrences occurrences({text, size}, from);
-  if (!occurrences.any_from(front)) return;
-  const View to(replacement, short_length(replacement));
-  const bool shorter = to.size() < from.size();
-  const std::size_t new_size =
-      shorter ? shrink_again(occurrences, text, size, to) : grow_again(occurrences, text, size, to);
+// A text without an occurrence is not written to, not even its terminator. In front of `from` there
+// is none.
+[[gnu::noinline]] void replace_far(char* text, std::size_t from, View pattern, View replacement) {
+  const std::size_t size = from + std::strlen(text + from);
+  Occurrences occurrences({text, size}, pattern);
+  if (!occurrences.any_from(from)) return;
+  const bool shorter = replacement.size() < pattern.size();
+  const std::size_t new_size = shorter ? shrink_again(occurrences, text, size, replacement)
+                                       : grow_again(occurrences, text, size, replacement);
   if (new_size != size) text[new_size] = '\0';
+}
+
+// So many occurrences are looked for one by one; for more a wide search pays.
+constexpr std::size_t few_occurrences = 3;
+
+// The first occurrence is at `at`. The replacement is shorter, and stands apart.
+[[gnu::noinline]] void replace_few_by_shorter(char* text, std::size_t at, View pattern,
+                                              View replacement) {
+  GapText gap{text, at, at, 0};
+  for (std::size_t count = 0;;) {
+    put(text + gap.done, replacement);
+    gap.done += replacement.size();
+    gap.rest += pattern.size();
+    if (++count == few_occurrences) break;
+    const Found next = find_next(text + gap.rest, pattern.data());
+    gap.pass(static_cast<std::size_t>(next.at - text) - gap.rest);
+    if (!next.sure) break;
+    if (*next.at == '\0') {
+      text[gap.done] = '\0';
+      return;
+    }
+  }
+  const std::size_t size = std::strlen(text + gap.rest);
+  Occurrences occurrences({text + gap.rest, size}, pattern);
+  gap.end = gap.rest + size;
+  text[rewrite_onward(occurrences, gap, replacement)] = '\0';
+}
+
+// The first occurrence is at `at`. The replacement is not shorter, and stands apart.
+[[gnu::noinline]] void replace_few_by_longer(char* text, std::size_t at, View pattern,
+                                             View replacement) {
+  std::size_t places[few_occurrences], count = 0;
+  for (std::size_t from = at; count < few_occurrences;) {
+    places[count++] = from;
+    const Found next = find_next(text + from + pattern.size(), pattern.data());
+    if (!next.sure) break;
+    from = static_cast<std::size_t>(next.at - text);
+    if (*next.at == '\0') {
+      text[replace_at_places(text, from, places, count, pattern, replacement)] = '\0';
+      return;
+    }
+  }
+  replace_far(text, at, pattern, replacement);
+}
+
+[[gnu::noinline]] void replace_from(char* text, const char* pattern, const char* replacement,
+                                    Found first) {
+  const View from(pattern, short_length(pattern)), to(replacement, short_length(replacement));
+  if (contains(to, from)) return;
+  const auto at = static_cast<std::size_t>(first.at - text);
+  if (!first.sure || !stands_apart(from, to)) return replace_far(text, at, from, to);
+  if (to.size() < from.size()) return replace_few_by_shorter(text, at, from, to);
+  replace_few_by_longer(text, at, from, to);
+}
+
+[[gnu::noinline]] void replace_behind(char* text, const char* pattern, const char* replacement) {
+  const Found first = find_by_rare_bytes(text + near_bytes, pattern);
+  if (*first.at != '\0') replace_from(text, pattern, replacement, first);
+}
+
+// The pattern is not empty. The ways stand apart, so that none saves registers for another.
+void replace_pattern(char* text, const char* pattern, const char* replacement) {
+  const char* const first = find_near(text, pattern);
+  if (!first) return replace_behind(text, pattern, replacement);
+  if (*first != '\0') replace_from(text, pattern, replacement, {first, true});
 }
 
 void replace_in_bytes(char* text, const char* pattern, const char* replacement) {
@@ -236,7 +337,7 @@ void replace_in_bytes(char* text, const char* pattern, const char* replacement) 
 // Goes on behind the replacement, which is longer.
 void grow_onward(std::string& text, Occurrences& occurrences, View replacement) {
   const std::size_t size = text.size();
-  const Places places(occurrences);
+  const Places places(text, occurrences);
   const View pattern = occurrences.pattern();
   text.resize(size + places.count * (replacement.size() - pattern.size()));
   replace_by_longer(text.data(), size, places, pattern, replacement);
@@ -246,7 +347,7 @@ void replace_in_string(std::string& text, View pattern, const std::string& repla
   Occurrences occurrences(text, pattern);
   if (!occurrences.any()) return;
   if (replacement.size() <= pattern.size()) {
-    text.resize(rewrite_onward(occurrences, text.data(), 0, text.size(), replacement));
+    text.resize(rewrite_onward(occurrences, {text.data(), 0, 0, text.size()}, replacement));
   } else if (&replacement == &text) {
     grow_onward(text, occurrences, std::string(replacement));
   } else {
@@ -261,10 +362,19 @@ void replace_in_string(std::string& text, View pattern, const std::string& repla
   text.resize(shrink_again(occurrences, text.data(), text.size(), {}));
 }
 
+// No first of a pair stands in front of the place where the walk begins.
+[[gnu::noinline]] void remove_pairs(std::string& text, const char* pair) {
+  const std::size_t from = text.find(pair[0]);
+  if (from == std::string::npos) return;
+  text.resize(from + cut_few_pairs(text.data() + from, text.size() - from, pair));
+}
+
 void remove_from_string(std::string& text, View pattern) {
-  constexpr std::size_t few = 16;
+  constexpr std::size_t few = 16, some = 32;
   if (pattern.size() == 2 && text.size() <= few) {
     text.resize(cut_few_pairs(text.data(), text.size(), pattern.data()));
+  } else if (pattern.size() == 2 && text.size() <= some) {
+    remove_pairs(text, pattern.data());
   } else if (!pattern.empty()) {
     remove_pattern(text, pattern);
   }

@@ -60,4 +60,18 @@ std::size_t count_runs(const char* text, std::size_t size, char byte) {
   return count;
 }
 
+std::size_t count_pairs(const char* text, std::size_t size, char first, char second) {
+  std::size_t count = 0, i = 0;
+#ifdef ZEPH_SCAN_SSE2
+  const __m128i all_first = all_16(first), all_second = all_16(second);
+  count = count_wide(size, [=](std::size_t at) {
+    return _mm_and_si128(_mm_cmpeq_epi8(load_16(text + at), all_first),
+                         _mm_cmpeq_epi8(load_16(text + at + 1), all_second));
+  });
+  i = wide_part(size);
+#endif
+  for (; i < size; ++i) count += text[i] == first && text[i + 1] == second;
+  return count;
+}
+
 }  // namespace zeph

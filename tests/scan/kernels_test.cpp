@@ -224,6 +224,9 @@ TEST(Kernels, Runs) {
     ASSERT_EQ(zeph::count_byte(begin, size, byte), size - (at < size));
     ASSERT_EQ(zeph::count_runs(closed.data(), size, byte),
               size == 0 ? 0 : (at > 0) + (back > 0) - (at == size));
+    ASSERT_EQ(zeph::count_pairs(closed.data(), size, byte, other), at > 0 && at < size);
+    ASSERT_EQ(zeph::count_pairs(closed.data(), size, byte, byte),
+              at - (at > 0) + (at < size ? back - (back > 0) : 0));
     ASSERT_EQ(zeph::find_byte_or_end(begin, other, size), begin + at);
     ASSERT_EQ(zeph::find_byte_or_end(closed.data(), other), closed.data() + at);
     ASSERT_EQ(zeph::find_byte_or_end(closed.data(), other, size + 99), closed.data() + at);
