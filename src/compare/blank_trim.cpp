@@ -11,6 +11,24 @@ namespace zeph {
 namespace {
 
 constexpr char blank = ' ';
+constexpr std::uint64_t blanks = 0x2020202020202020;
+
+// Up to here a run is counted by the word, without a call.
+constexpr std::size_t near_words = 4 * word_size;
+
+// The first word goes byte by byte, so that a short run decides where to load from without a wait.
+std::size_t blanks_at_front(const std::string& text) {
+  const char* const begin = text.data();
+  const std::size_t size = text.size();
+  for (std::size_t run = 0; run < word_size; ++run) {
+    if (run == size || begin[run] != blank) return run;
+  }
+  for (std::size_t run = word_size; run < near_words && size - run >= word_size; run += word_size) {
+    const std::uint64_t others = load_word(begin + run) ^ blanks;
+    if (others != 0) return run + static_cast<std::size_t>(__builtin_ctzll(others)) / 8;
+  }
+  return run_at_front(begin, size, blank);
+}
 
 // What is left of a text.
 struct Kept {
@@ -49,7 +67,7 @@ HeadedText headed(const char* text) {
   std::size_t begin = 0;
   while (begin < near_run && text[begin] == blank) ++begin;
   const std::size_t size = begin + std::strlen(text + begin);
-  if (begin == near_run) begin = run_at_front(text, size, blank);
+  if (begin == near_run) begin = long_run_at_front(text, size, blank);
   return {size, begin};
 }
 
@@ -72,11 +90,9 @@ void keep_in_text(char* text, std::size_t size, Kept kept) {
 // is loaded from a place that the number decides. Most texts have none, which their last byte
 // tells.
 void drop_tail(std::string& text) {
-  constexpr std::uint64_t blanks = 0x2020202020202020;
-  constexpr std::size_t near = 4 * word_size;
   const std::size_t size = text.size();
   if (size == 0 || text[size - 1] != blank) return;
-  for (std::size_t left = size; left >= word_size && size - left < near; left -= word_size) {
+  for (std::size_t left = size; left >= word_size && size - left < near_words; left -= word_size) {
     const std::uint64_t others = load_word(text.data() + left - word_size) ^ blanks;
     if (others == 0) continue;
     text.erase(left - static_cast<std::size_t>(__builtin_clzll(others)) / 8);
@@ -115,7 +131,7 @@ void Zeph_Del_HeadSpace(char* text) {
 }
 
 void Zeph_Del_HeadSpace(std::string& text) {
-  const std::size_t begin = zeph::run_at_front(text.data(), text.size(), zeph::blank);
+  const std::size_t begin = zeph::blanks_at_front(text);
   zeph::keep_in_string(text, {begin, text.size()});
 }
 

@@ -49,6 +49,23 @@ void fold_text(LetterCase to, const char* source, char* target) {
   put_c_locale_fold(to, target, source, size);
 }
 
+[[gnu::noinline]] void fold_short_text(LetterCase to, char* text, std::size_t size) {
+  const LocaleFold fold(to);
+  for (std::size_t i = 0; i < size; ++i) text[i] = fold(text[i]);
+}
+
+// In place. Such a text has often just been written: a wide load that looks for its end has to wait
+// until all narrower stores are through, while single bytes are handed over at once.
+[[gnu::always_inline]] inline void fold_text(LetterCase to, char* text) {
+  for (std::size_t size = 0; size < worth_a_look; ++size) {
+    if (text[size] == '\0') return fold_short_text(to, text, size);
+  }
+  if (!in_c_locale()) return fold_text_by_locale(to, text, text);
+  const std::size_t size = std::strlen(text);
+  if (size <= 64 && size % 16 == 0) return put_ascii_fold_blocks(to, text, text, size);
+  put_c_locale_fold(to, text, text, size);
+}
+
 void fold_string(LetterCase to, std::string& text) {
   if (!in_c_locale()) return put_locale_fold(to, &text[0], text.data(), text.size());
   put_c_locale_fold(to, &text[0], text.data(), text.size());
@@ -72,7 +89,7 @@ namespace Orbane {
 using zeph::LetterCase;
 
 void Zeph_Lower(char* text) {
-  zeph::fold_text(LetterCase::lower, text, text);
+  zeph::fold_text(LetterCase::lower, text);
 }
 
 void Zeph_Lower(const char* source, char* target) {
@@ -88,7 +105,7 @@ void Zeph_Lower(const std::string& source, std::string& target) {
 }
 
 void Zeph_Upper(char* text) {
-  zeph::fold_text(LetterCase::upper, text, text);
+  zeph::fold_text(LetterCase::upper, text);
 }
 
 void Zeph_Upper(const char* source, char* target) {

@@ -69,6 +69,14 @@ inline void put_ascii_fold_16(LetterCase to, char* out, const char* from, std::s
   store_first<16>(out + size - 16, other_case_16(tail, first));
 }
 
+// A multiple of 16 bytes. No load waits for the size, which a text just written tells late.
+inline void put_ascii_fold_blocks(LetterCase to, char* out, const char* from, std::size_t size) {
+  const char first = first_folded(to);
+  for (std::size_t i = 0; i < size; i += 16) {
+    store_first<16>(out + i, other_case_16(load_first<16>(from + i), first));
+  }
+}
+
 // In this order a size from 8 on takes no more than one jump.
 inline void put_ascii_fold_baseline(LetterCase to, char* out, const char* from, std::size_t size) {
   if (size >= 8 && size < 16) return put_ascii_fold_of_ends<8>(to, out, from, size);
@@ -78,6 +86,10 @@ inline void put_ascii_fold_baseline(LetterCase to, char* out, const char* from, 
 }
 
 #else
+
+inline void put_ascii_fold_blocks(LetterCase to, char* out, const char* from, std::size_t size) {
+  put_ascii_fold_portable(to, out, from, size);
+}
 
 inline void put_ascii_fold_baseline(LetterCase to, char* out, const char* from, std::size_t size) {
   put_ascii_fold_portable(to, out, from, size);
