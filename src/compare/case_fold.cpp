@@ -29,7 +29,8 @@ bool in_c_locale() {
   for (std::size_t i = 0; i < size; ++i) out[i] = fold(from[i]);
 }
 
-void put_c_locale_fold(LetterCase to, char* out, const char* from, std::size_t size) {
+[[gnu::always_inline]] inline void put_c_locale_fold(LetterCase to, char* out, const char* from,
+                                                     std::size_t size) {
   // A text that has just been written is read in pieces as wide as those it was written in.
   if (__builtin_expect(size > 64, 0)) return put_long_ascii_fold(to, out, from, size);
   put_ascii_fold_baseline(to, out, from, size);
@@ -42,7 +43,7 @@ void put_c_locale_fold(LetterCase to, char* out, const char* from, std::size_t s
 }
 
 // The locale first: what is known of the text then need not be kept over that call.
-void fold_text(LetterCase to, const char* source, char* target) {
+[[gnu::always_inline]] inline void fold_text(LetterCase to, const char* source, char* target) {
   if (!in_c_locale()) return fold_text_by_locale(to, source, target);
   const std::size_t size = std::strlen(source);
   target[size] = '\0';
@@ -62,7 +63,6 @@ void fold_text(LetterCase to, const char* source, char* target) {
   }
   if (!in_c_locale()) return fold_text_by_locale(to, text, text);
   const std::size_t size = std::strlen(text);
-  if (size <= 64 && size % 16 == 0) return put_ascii_fold_blocks(to, text, text, size);
   put_c_locale_fold(to, text, text, size);
 }
 

@@ -59,22 +59,18 @@ inline void put_ascii_fold_of_ends(LetterCase to, char* out, const char* from, s
   store_first<half>(out + size - half, other_case_16(tail, first));
 }
 
-// Sizes from 16 on.
-inline void put_ascii_fold_16(LetterCase to, char* out, const char* from, std::size_t size) {
-  const char first = first_folded(to);
-  const __m128i tail = load_first<16>(from + size - 16);
-  for (std::size_t i = 0; i + 16 < size; i += 16) {
-    store_first<16>(out + i, other_case_16(load_first<16>(from + i), first));
-  }
-  store_first<16>(out + size - 16, other_case_16(tail, first));
+inline void put_ascii_fold_block(char* out, const char* from, char first) {
+  __m128i bytes = load_first<16>(from);
+  __asm__("" : "+x"(bytes));  // else GCC loads them for each of their two uses
+  store_first<16>(out, other_case_16(bytes, first));
 }
 
-// A multiple of 16 bytes. No load waits for the size, which a text just written tells late.
-inline void put_ascii_fold_blocks(LetterCase to, char* out, const char* from, std::size_t size) {
+// Sizes from 16 on. No load of a whole block waits for the size, which a text just written tells
+// late. Of the last 16 bytes some are folded already, if `out` is `from`: they stay as they are.
+inline void put_ascii_fold_16(LetterCase to, char* out, const char* from, std::size_t size) {
   const char first = first_folded(to);
-  for (std::size_t i = 0; i < size; i += 16) {
-    store_first<16>(out + i, other_case_16(load_first<16>(from + i), first));
-  }
+  for (std::size_t i = 0; i + 16 <= size; i += 16) put_ascii_fold_block(out + i, from + i, first);
+  if (size % 16 != 0) put_ascii_fold_block(out + size - 16, from + size - 16, first);
 }
 
 // In this order a size from 8 on takes no more than one jump.
@@ -87,7 +83,7 @@ inline void put_ascii_fold_baseline(LetterCase to, char* out, const char* from, 
 
 #else
 
-inline void put_ascii_fold_blocks(LetterCase to, char* out, const char* from, std::size_t size) {
+inline void put_ascii_fold_16(LetterCase to, char* out, const char* from, std::size_t size) {
   put_ascii_fold_portable(to, out, from, size);
 }
 
