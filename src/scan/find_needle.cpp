@@ -8,6 +8,7 @@
 
 #include "scan/ascii_fold.h"
 #include "scan/byte_mask.h"
+#include "scan/find_byte.h"
 #include "scan/find_pair.h"
 #include "scan/last_byte.h"
 #include "scan/two_way.h"
@@ -171,12 +172,11 @@ std::size_t find_short_needle(View haystack, View needle) {
   return find_short_needle_baseline(haystack, needle);
 }
 
-// The runtime's search for one byte is the fastest there is: a rare first byte needs no more.
+// A search for one byte is the fastest there is: a rare first byte needs no more.
 [[gnu::noinline]] std::size_t find_long_way(View haystack, View needle) {
   const std::size_t count = haystack.size() - needle.size() + 1;
-  const void* const first = std::memchr(haystack.data(), needle[0], count);
-  if (!first) return View::npos;
-  const char* const here = static_cast<const char*>(first);
+  const char* const here = find_known_byte(haystack.data(), count, needle[0]);
+  if (!here) return View::npos;
   const auto at = static_cast<std::size_t>(here - haystack.data());
   if (std::memcmp(here, needle.data(), needle.size()) == 0) return at;
   return find_filtered(haystack, needle, at + 1, ExactFold());
