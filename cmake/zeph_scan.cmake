@@ -46,8 +46,8 @@ if(NOT ZEPH_PORTABLE)
   endif()
   if(ZEPH_FOUND_AVX512)
     list(APPEND ZEPH_SCAN_SOURCES scan/ascii_fold_avx512.cpp scan/copy_text_avx512.cpp
-      scan/find_needle_avx512.cpp scan/find_pair_avx512.cpp scan/move_bytes_avx512.cpp
-      scan/same_text_avx512.cpp)
+      scan/find_byte_avx512.cpp scan/find_needle_avx512.cpp scan/find_pair_avx512.cpp
+      scan/move_bytes_avx512.cpp scan/same_text_avx512.cpp)
     list(APPEND ZEPH_SCAN_DEFINITIONS ZEPH_HAS_AVX512)
   endif()
   if(ZEPH_FOUND_AVX512_VBMI2)

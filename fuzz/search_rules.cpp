@@ -22,7 +22,7 @@ std::string needle_of(Draw& draw, const std::string& text, const char* alphabet)
   return draw.yes() ? needle : folded(needle);
 }
 
-// All four members, with a range or without.
+// All four members, with a range or without, in the caller and in the library.
 template <typename... Range>
 void expect_found(const std::string& seen, std::size_t from, const std::string& needle,
                   const char* text, Range... range) {
@@ -30,10 +30,16 @@ void expect_found(const std::string& seen, std::size_t from, const std::string& 
   const int exact = static_cast<int>(seen.find(needle, from));
   const int either = static_cast<int>(folded(seen).find(folded(needle), from));
   const GuardedText wanted(needle);
-  EXPECT_EQ(Zeph_Find_Position(text, range..., wanted.data()), exact) << seen << '|' << needle;
-  EXPECT_EQ(Zeph_Find_Position_L(text, range..., wanted.data()), either) << seen << '|' << needle;
-  EXPECT_EQ(Zeph_Find_SubString(text, range..., wanted.data()), exact >= 0);
-  EXPECT_EQ(Zeph_Find_SubString_L(text, range..., wanted.data()), either >= 0);
+  const char* const sought = wanted.data();
+  using Place = int(const char*, Range..., const char*);
+  using Stands = bool(const char*, Range..., const char*);
+  EXPECT_EQ(Zeph_Find_Position(text, range..., sought), exact) << seen << '|' << needle;
+  EXPECT_EQ(Zeph_Find_Position_L(text, range..., sought), either) << seen << '|' << needle;
+  EXPECT_EQ(exported<Place>(Zeph_Find_Position)(text, range..., sought), exact);
+  EXPECT_EQ(Zeph_Find_SubString(text, range..., sought), exact >= 0);
+  EXPECT_EQ(Zeph_Find_SubString_L(text, range..., sought), either >= 0);
+  EXPECT_EQ(exported<Stands>(Zeph_Find_SubString)(text, range..., sought), exact >= 0);
+  EXPECT_EQ(exported<Stands>(Zeph_Find_SubString_L)(text, range..., sought), either >= 0);
 }
 
 void positions(Draw& draw) {

@@ -1239,12 +1239,12 @@ ZEPH_API const char* Zeph_Get_SysErrMsg();
 }  // namespace Orbane
 
 /// @cond
-// First steps in the caller. Most comparisons end at the first byte, the others are one service of
-// the C library, most Strings have no blank or mark to take off, and a piece behind the end is
-// refused: the call into the shared library would be most of what they cost. So compilers get these
-// functions to put them in place of the call. The results are those of the exported functions,
-// which a function pointer, another language or a debugger reach as ever. Define ZEPH_NO_INLINE to
-// call the library always.
+// First steps in the caller. Most comparisons end at the first byte, the others and the search for
+// one byte are one service of the C library, whether a pattern stands is told by its place, most
+// Strings have no blank or mark to take off, and a piece behind the end is refused: the call into
+// the shared library would be most of what they cost. So compilers get these functions to put them
+// in place of the call. The results are those of the exported functions, which a function pointer,
+// another language or a debugger reach as ever. Define ZEPH_NO_INLINE to call the library always.
 #if defined(__ELF__) && defined(__GNUC__) && !defined(ZEPH_BUILDING) && !defined(ZEPH_NO_INLINE)
 
 #define ZEPH_SERVICE __attribute__((visibility("default"))) ZEPH_NO_PLT
@@ -1263,6 +1263,7 @@ ZEPH_SERVICE int zeph_strncmp(const char*, const char*, std::size_t) __asm__("st
 ZEPH_SERVICE int zeph_strcasecmp(const char*, const char*) __asm__("strcasecmp");
 ZEPH_SERVICE int zeph_strncasecmp(const char*, const char*, std::size_t) __asm__("strncasecmp");
 ZEPH_SERVICE std::size_t zeph_strlen(const char*) __asm__("strlen");
+ZEPH_SERVICE const char* zeph_strchr(const char*, int) __asm__("strchr");
 ZEPH_SERVICE void* zeph_memset(void*, int, std::size_t) __asm__("memset");
 }
 
@@ -1347,6 +1348,13 @@ ZEPH_STEP Glance glance_at_vectors(const char* a, const char* b, std::size_t siz
   return {lanes_of(glance.difference), lanes_of(glance.zeros)};
 }
 
+ZEPH_STEP int place_of_byte(const char* text, char byte) {
+  const char* const found = zeph_strchr(text, byte);
+  if (found == nullptr) return -1;
+  const std::size_t place = static_cast<std::size_t>(found - text);
+  return place <= __INT_MAX__ ? static_cast<int>(place) : -1;
+}
+
 }  // namespace zeph
 
 namespace Orbane {
@@ -1421,6 +1429,29 @@ ZEPH_FIRST_STEPS bool Zeph_Compare_L(std::string& a, std::string& b, int n) {
     return zeph::zeph_strncasecmp(a.c_str(), b.c_str(), static_cast<std::size_t>(n)) == 0;
   }
   return zeph::exported<bool(std::string&, std::string&, int)>(Zeph_Compare_L)(a, b, n);
+}
+
+ZEPH_FIRST_STEPS int Zeph_Find_Position(const char* text, const char* pattern) {
+  if (*pattern != '\0' && pattern[1] == '\0') return zeph::place_of_byte(text, *pattern);
+  return zeph::exported<int(const char*, const char*)>(Zeph_Find_Position)(text, pattern);
+}
+
+ZEPH_FIRST_STEPS bool Zeph_Find_SubString(const char* text, const char* pattern) {
+  return Zeph_Find_Position(text, pattern) >= 0;
+}
+
+ZEPH_FIRST_STEPS bool Zeph_Find_SubString(const char* text, int start, int end,
+                                          const char* pattern) {
+  return Zeph_Find_Position(text, start, end, pattern) >= 0;
+}
+
+ZEPH_FIRST_STEPS bool Zeph_Find_SubString_L(const char* text, const char* pattern) {
+  return Zeph_Find_Position_L(text, pattern) >= 0;
+}
+
+ZEPH_FIRST_STEPS bool Zeph_Find_SubString_L(const char* text, int start, int end,
+                                            const char* pattern) {
+  return Zeph_Find_Position_L(text, start, end, pattern) >= 0;
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Get_SubString(const std::string& text, int start, int count,

@@ -8,6 +8,7 @@
 
 #include "scan/ascii_fold.h"
 #include "scan/byte_mask.h"
+#include "scan/find_byte.h"
 #include "scan/find_pair.h"
 #include "scan/last_byte.h"
 #include "scan/two_way.h"
@@ -171,15 +172,33 @@ std::size_t find_short_needle(View haystack, View needle) {
   return find_short_needle_baseline(haystack, needle);
 }
 
-// The runtime's search for one byte is the fastest there is: a rare first byte needs no more.
+// A search for one byte is the fastest there is: a rare first byte needs no more.
 [[gnu::noinline]] std::size_t find_long_way(View haystack, View needle) {
   const std::size_t count = haystack.size() - needle.size() + 1;
-  const void* const first = std::memchr(haystack.data(), needle[0], count);
-  if (!first) return View::npos;
-  const char* const here = static_cast<const char*>(first);
+  const char* const here = find_known_byte(haystack.data(), count, needle[0]);
+  if (!here) return View::npos;
   const auto at = static_cast<std::size_t>(here - haystack.data());
   if (std::memcmp(here, needle.data(), needle.size()) == 0) return at;
   return find_filtered(haystack, needle, at + 1, ExactFold());
+}
+
+// The places in front of `left`. Apart, so that a search which the first place ends saves few
+// registers.
+[[gnu::noinline]] std::size_t find_last_filtered(View haystack, View needle, std::size_t left) {
+  const std::size_t last = left;
+  Budget budget;
+  for (;;) {
+    left = behind_last(haystack.data(), left, needle[0]);
+    if (left == 0) return View::npos;
+    const std::size_t at = --left;
+    const std::size_t same =
+        common_front(haystack.data() + at, needle.data(), needle.size(), ExactFold());
+    if (same == needle.size()) return at;
+    if (!budget.spent_by(same, last - at)) continue;
+    const View rest = haystack.substr(0, at + needle.size() - 1);
+    const std::size_t found = find_two_way(Backwards{rest}, Backwards{needle}, ExactFold());
+    return found == View::npos ? found : rest.size() - needle.size() - found;
+  }
 }
 
 }  // namespace
@@ -195,20 +214,12 @@ std::size_t find_needle(View haystack, View needle) {
 std::size_t find_last_needle(View haystack, View needle) {
   if (needle.empty()) return haystack.size();
   if (needle.size() > haystack.size()) return View::npos;
-  const std::size_t last = haystack.size() - needle.size();
-  Budget budget;
-  for (std::size_t left = last + 1;;) {
-    left = behind_last(haystack.data(), left, needle[0]);
-    if (left == 0) return View::npos;
-    const std::size_t at = --left;
-    const std::size_t same =
-        common_front(haystack.data() + at, needle.data(), needle.size(), ExactFold());
-    if (same == needle.size()) return at;
-    if (!budget.spent_by(same, last - at)) continue;
-    const View rest = haystack.substr(0, at + needle.size() - 1);
-    const std::size_t found = find_two_way(Backwards{rest}, Backwards{needle}, ExactFold());
-    return found == View::npos ? found : rest.size() - needle.size() - found;
-  }
+  const std::size_t places = haystack.size() - needle.size() + 1;
+  const std::size_t behind = behind_last(haystack.data(), places, needle[0]);
+  if (behind == 0) return View::npos;
+  const char* const here = haystack.data() + (behind - 1);
+  if (equal_behind_first(here, needle.data(), needle.size(), ExactFold())) return behind - 1;
+  return find_last_filtered(haystack, needle, behind - 1);
 }
 
 std::size_t find_needle_ignoring_case(View haystack, View needle) {

@@ -120,13 +120,19 @@ int find_folded_in_range(const char* text, Range range, View pattern) {
   return likely ? find_folded_near(text, range, pattern) : find_folded(text, range, pattern);
 }
 
-// Most places that do not hold the pattern differ from it early.
-bool starts_with(const char* text, const char* pattern) {
-  for (int i = 0; i < 16; ++i, ++text, ++pattern) {
-    if (*pattern == '\0') return true;
-    if (*text != *pattern) return false;
-  }
+[[gnu::noinline]] bool starts_with(const char* text, const char* pattern) {
   return std::strncmp(text, pattern, std::strlen(pattern)) == 0;
+}
+
+// Whether a pattern stands at a place where its first byte does. Most others differ early: the
+// compiler makes no loop of so few bytes.
+inline bool stands_behind_first(const char* text, const char* pattern) {
+  constexpr int near = 8;
+  for (int i = 1; i <= near; ++i) {
+    if (pattern[i] == '\0') return true;
+    if (text[i] != pattern[i]) return false;
+  }
+  return starts_with(text + near + 1, pattern + near + 1);
 }
 
 // How many bytes are the same in front of the first that differs. There is one: the pattern does
@@ -146,7 +152,7 @@ std::size_t common_bytes(const char* text, const char* pattern) {
     from = find_byte_or_end(from + other, pattern[other]);
     if (*from == '\0') return not_found;
     from -= other;
-    if (starts_with(from, pattern.data())) {
+    if (*from == pattern[0] && stands_behind_first(from, pattern.data())) {
       return to_position(static_cast<std::size_t>(from - text));
     }
     ++from;
@@ -168,28 +174,22 @@ std::size_t common_bytes(const char* text, const char* pattern) {
   return known < mask_bytes ? not_found : find_beyond(text, from, sought);
 }
 
-// The same where the first byte of the pattern, which has not stood in front of `from`, is rare: in
-// a short text the runtime's walk to the next places where it stands comes to the end.
-[[gnu::noinline]] int find_next(const char* text, const char* from, const char* pattern) {
+// The first byte of most patterns is rare, and the runtime's walk to it needs no length: the first
+// place where it stands decides most searches. If it does not, but lies some way from the start,
+// two more walks come to the end of a short text. That is one function: to hand over to another one
+// costs nearly as much as a walk.
+[[gnu::noinline]] int find_exact(const char* text, const char* pattern) {
   constexpr std::ptrdiff_t near = 8;
-  if (from - text < near) return find_behind(text, from, pattern);
-  for (int places = 2; places > 0; --places) {
-    from = find_byte_or_end(from + 1, *pattern);
+  const char* from = find_byte_or_end(text, *pattern);
+  for (int places = 1;; ++places) {
     if (*from == '\0') return not_found;
-    if (starts_with(from + 1, pattern + 1)) {
+    if (stands_behind_first(from, pattern)) {
       return to_position(static_cast<std::size_t>(from - text));
     }
+    if (places == 3 || from - text < near) return find_behind(text, from, pattern);
+    __asm__("" : "+r"(pattern));  // else GCC keeps its bytes in registers that all calls save
+    from = find_byte_or_end(from + 1, *pattern);
   }
-  return find_behind(text, from, pattern);
-}
-
-// The first byte of most patterns is rare, and the runtime's walk to it needs no length: the first
-// place where it stands decides most searches.
-[[gnu::noinline]] int find_exact(const char* text, const char* pattern) {
-  const char* const from = find_byte_or_end(text, *pattern);
-  if (*from == '\0') return not_found;
-  if (!starts_with(from + 1, pattern + 1)) return find_next(text, from, pattern);
-  return to_position(static_cast<std::size_t>(from - text));
 }
 
 [[gnu::noinline]] int find_byte(const char* text, char byte) {

@@ -227,6 +227,12 @@ TEST(Kernels, Runs) {
     ASSERT_EQ(zeph::count_pairs(closed.data(), size, byte, other), at > 0 && at < size);
     ASSERT_EQ(zeph::count_pairs(closed.data(), size, byte, byte),
               at - (at > 0) + (at < size ? back - (back > 0) : 0));
+    ASSERT_EQ(zeph::find_known_byte(begin, size, other), at < size ? begin + at : nullptr);
+#ifdef ZEPH_HAS_AVX512
+    if (zeph::has_avx512() && size >= 64) {
+      ASSERT_EQ(zeph::find_byte_avx512(begin, size, other), at < size ? begin + at : nullptr);
+    }
+#endif
     ASSERT_EQ(zeph::find_byte_or_end(begin, other, size), begin + at);
     ASSERT_EQ(zeph::find_byte_or_end(closed.data(), other), closed.data() + at);
     ASSERT_EQ(zeph::find_byte_or_end(closed.data(), other, size + 99), closed.data() + at);
@@ -239,6 +245,20 @@ TEST(Kernels, Runs) {
     ASSERT_EQ(zeph::byte_mask(begin, size, byte), all & ~place);
     ASSERT_TRUE(place == 0 || zeph::lowest_place(place) == at);
   });
+}
+
+// In a long range: near, at both sides of each step, and nowhere.
+TEST(Kernels, FindKnownByte) {
+  for (const std::size_t size : {1023u, 1024u, 1060u, 1400u}) {
+    const GuardedText none(std::string(size, 'a'), End::bare);
+    for (std::size_t at = 0; at < size; at += at < 300 || at > size - 300 ? 1 : 41) {
+      std::string text(size, 'a');
+      text[at] = text.back() = 'b';
+      const GuardedText hit(text, End::bare);
+      ASSERT_EQ(zeph::find_known_byte(hit.data(), size, 'b'), hit.data() + at);
+    }
+    ASSERT_EQ(zeph::find_known_byte(none.data(), size, 'b'), nullptr);
+  }
 }
 
 // A far byte is looked for in pieces that grow.
