@@ -46,7 +46,12 @@ std::size_t behind_last_in_front(const char* text, std::size_t size, char a, cha
 
 }  // namespace
 
+// Most are near the end.
 std::size_t behind_last_far(const char* text, std::size_t size, char a, char b) {
+  const __m128i end = load_16(text + size - 16);
+  const __m128i places =
+      _mm_or_si128(_mm_cmpeq_epi8(end, all_16(a)), _mm_cmpeq_epi8(end, all_16(b)));
+  if (const unsigned near = bits_of(places)) return size - 15 + highest_bit(near);
   const std::size_t front = size - mask_bytes;
   if (const std::size_t near = behind_last(text + front, mask_bytes, a, b)) return front + near;
 #ifdef __GLIBC__
