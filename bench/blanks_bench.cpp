@@ -58,7 +58,8 @@ constexpr auto is_blank = [](char byte) { return byte == ' '; };
 
 // ---- the rows ----
 
-// One function and what stands against it.
+// One function and what stands against it. What headers put into the caller is part of it, Zeph's
+// as well as abseil's and Boost's.
 struct Ends {
   const char* name;
   void (*of_bytes)(char*);
@@ -76,7 +77,7 @@ struct Ends {
 const Ends tail = {
     "Zeph_Del_TailSpace",
     Orbane::Zeph_Del_TailSpace,
-    Orbane::Zeph_Del_TailSpace,
+    [](std::string& text) { Orbane::Zeph_Del_TailSpace(text); },
     tail_by_loop,
     tail_by_find,
 #if ZEPH_BENCH_HAS_ABSEIL
@@ -90,7 +91,7 @@ const Ends tail = {
 const Ends head = {
     "Zeph_Del_HeadSpace",
     Orbane::Zeph_Del_HeadSpace,
-    Orbane::Zeph_Del_HeadSpace,
+    [](std::string& text) { Orbane::Zeph_Del_HeadSpace(text); },
     head_by_loop,
     head_by_find,
 #if ZEPH_BENCH_HAS_ABSEIL
@@ -104,7 +105,7 @@ const Ends head = {
 const Ends both = {
     "Zeph_Trimed",
     Orbane::Zeph_Trimed,
-    Orbane::Zeph_Trimed,
+    [](std::string& text) { Orbane::Zeph_Trimed(text); },
     both_by_loop,
     both_by_find,
 #if ZEPH_BENCH_HAS_ABSEIL

@@ -1294,17 +1294,26 @@ ZEPH_STEP bool is_closing(char byte) {
   return byte == ')' || byte == ']' || byte == '}' || byte == '>';
 }
 
-// What two Strings of one size show at a glance: all bits in which they differ, and a bit for a
-// zero byte, which may end both texts in front of the difference.
-struct Glance {
-  unsigned long long difference, zeros;
-};
-
 ZEPH_STEP unsigned long long eight_bytes(const char* from) {
   unsigned long long word;
   __builtin_memcpy(&word, from, 8);
   return word;
 }
+
+// How many of the last bytes of a word are zero; one of the eight is not.
+ZEPH_STEP std::size_t zeros_at_back(unsigned long long word) {
+#if __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
+  return static_cast<std::size_t>(__builtin_clzll(word)) / 8;
+#else
+  return static_cast<std::size_t>(__builtin_ctzll(word)) / 8;
+#endif
+}
+
+// What two Strings of one size show at a glance: all bits in which they differ, and a bit for a
+// zero byte, which may end both texts in front of the difference.
+struct Glance {
+  unsigned long long difference, zeros;
+};
 
 // For 8 to 16 bytes: the first and the last word.
 ZEPH_STEP Glance glance_at_words(const char* a, const char* b, std::size_t size) {
@@ -1461,8 +1470,15 @@ ZEPH_FIRST_STEPS bool Zeph_Get_SubString(const std::string& text, int start, int
   return zeph::exported<Get>(Zeph_Get_SubString)(text, start, count, out);
 }
 
+// Up to seven blanks go by one look at the last word.
 ZEPH_FIRST_STEPS void Zeph_Del_TailSpace(std::string& text) {
-  if (text.empty() || text.back() != ' ') return;
+  const std::size_t size = text.size();
+  if (size == 0 || text[size - 1] != ' ') return;
+  if (size >= 8) {
+    const char* const last = text.data() + size - 8;
+    const unsigned long long others = zeph::eight_bytes(last) ^ 0x2020202020202020ULL;
+    if (others != 0) return void(text.erase(size - zeph::zeros_at_back(others)));
+  }
   zeph::exported<void(std::string&)>(Zeph_Del_TailSpace)(text);
 }
 
