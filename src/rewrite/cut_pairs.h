@@ -97,7 +97,7 @@ inline const char* behind_pairs(const char* from, char first, char second) {
       n = 0;
 #pragma GCC unroll 8
       for (; n < step; ++n) {
-        if (from[n] == second && top + n != text && top[n - 1] == first) break;
+        if (from[n] == second && top + n != text && *(top + n - 1) == first) break;
         if ((top[n] = from[n]) == '\0') return;
       }
       top += n;
