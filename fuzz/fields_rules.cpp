@@ -15,6 +15,15 @@ std::string list_text(Draw& draw) {
   return draw.text(300, alphabets[draw.below(5)]);
 }
 
+// Words of some KiB, which go in pieces.
+std::string long_words(Draw& draw) {
+  std::string text;
+  for (std::size_t words = 1 + draw.below(5); words > 0; --words) {
+    text += std::string(draw.below(20000), 'w') + (draw.yes() ? " " : ",  ");
+  }
+  return text;
+}
+
 // A cut is all overloads of a function as one: `cut(text, outputs...)`. Its byte text forms, in
 // rooms of so many bytes; the last output may be the text itself.
 template <typename Cut>
@@ -114,9 +123,11 @@ Fields items_of(const std::string& list, char separator) {
 }
 
 void fields_from_the_left(Draw& draw) {
-  const std::size_t count = 2 + draw.below(4), limit = draw.below(draw.yes() ? 7 : 400);
+  const bool many_bytes = draw.below(16) == 0;
+  const std::size_t count = 2 + draw.below(4);
+  const std::size_t limit = draw.below(many_bytes ? 20000 : draw.yes() ? 7 : 400);
   const char delimiter = draw.yes() ? ',' : static_cast<char>(draw.byte());
-  const std::string text = list_text(draw);
+  const std::string text = many_bytes ? long_words(draw) : list_text(draw);
   const auto most = static_cast<int>(limit);
   expect_fields(
       [&](const auto& from, auto&... to) { Zeph_Seperate_Char(from, delimiter, to..., most); },

@@ -28,8 +28,10 @@ void under_locale(int category, const char* name, const std::function<void()>& c
 
 template <typename Fold>
 std::string both_folded(Fold fold, std::string text) {
-  std::string bytes = text + '\0', copy;
+  std::string bytes = text + '\0', apart = bytes, copy;
   fold(bytes.data());
+  fold(text.c_str(), apart.data());
+  EXPECT_EQ(bytes, apart);
   fold(text, copy);
   fold(text);
   EXPECT_EQ(text, bytes.c_str()) << "byte text and String";

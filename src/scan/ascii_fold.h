@@ -83,10 +83,6 @@ inline void put_ascii_fold_baseline(LetterCase to, char* out, const char* from, 
 
 #else
 
-inline void put_ascii_fold_16(LetterCase to, char* out, const char* from, std::size_t size) {
-  put_ascii_fold_portable(to, out, from, size);
-}
-
 inline void put_ascii_fold_baseline(LetterCase to, char* out, const char* from, std::size_t size) {
   put_ascii_fold_portable(to, out, from, size);
 }
