@@ -1253,7 +1253,7 @@ ZEPH_API const char* Zeph_Get_SysErrMsg();
 // library's.
 #define ZEPH_FIRST_STEPS extern inline __attribute__((__gnu_inline__, __always_inline__))
 
-namespace zeph {
+namespace zeph_steps {
 
 // The C library's services by names of our own, so that they are called past the linkage table,
 // too.
@@ -1315,13 +1315,18 @@ struct Glance {
   unsigned long long difference, zeros;
 };
 
+// The highest bit of each zero byte.
+ZEPH_STEP unsigned long long zeros_in(unsigned long long word) {
+  const unsigned long long most = 0x7F7F7F7F7F7F7F7FULL;
+  return ~(((word & most) + most) | word | most);
+}
+
 // For 8 to 16 bytes: the first and the last word.
 ZEPH_STEP Glance glance_at_words(const char* a, const char* b, std::size_t size) {
   const unsigned long long first = eight_bytes(a), last = eight_bytes(a + size - 8);
   const unsigned long long difference =
       (first ^ eight_bytes(b)) | (last ^ eight_bytes(b + size - 8));
-  const unsigned long long ones = 0x0101010101010101ULL;
-  return {difference, (((first - ones) & ~first) | ((last - ones) & ~last)) & (ones << 7)};
+  return {difference, zeros_in(first) | zeros_in(last)};
 }
 
 typedef unsigned char Vector __attribute__((__vector_size__(16)));
@@ -1364,85 +1369,88 @@ ZEPH_STEP int place_of_byte(const char* text, char byte) {
   return place <= __INT_MAX__ ? static_cast<int>(place) : -1;
 }
 
-}  // namespace zeph
+}  // namespace zeph_steps
 
 namespace Orbane {
 
 ZEPH_FIRST_STEPS char* Zeph_Get_Mem_Str(char* text) {
-  return __builtin_expect(text != nullptr, 1) ? text : zeph::exported(Zeph_Get_Mem_Str)(text);
+  return __builtin_expect(text != nullptr, 1) ? text : zeph_steps::exported(Zeph_Get_Mem_Str)(text);
 }
 
 ZEPH_FIRST_STEPS int Zeph_Get_Mem_Size(char* text) {
-  const std::size_t size = text == nullptr ? 0 : zeph::zeph_strlen(text);
+  const std::size_t size = text == nullptr ? 0 : zeph_steps::zeph_strlen(text);
   return size < __INT_MAX__ ? static_cast<int>(size) : __INT_MAX__;
 }
 
 ZEPH_FIRST_STEPS char* Zeph_Set_Mem(char* block, int value, unsigned int count) {
-  if (count > 0) zeph::zeph_memset(block, value, count);
+  if (count > 0) zeph_steps::zeph_memset(block, value, count);
   return block;
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare(const char* a, const char* b) {
-  return !zeph::first_bytes_differ(a, b) && zeph::zeph_strcmp(a, b) == 0;
+  return !zeph_steps::first_bytes_differ(a, b) && zeph_steps::zeph_strcmp(a, b) == 0;
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare(const char* a, const char* b, int n) {
-  if (__builtin_expect(n != 0, 1) && zeph::first_bytes_differ(a, b)) return false;
-  return zeph::zeph_strncmp(a, b, static_cast<std::size_t>(n)) == 0;
+  if (__builtin_expect(n != 0, 1) && zeph_steps::first_bytes_differ(a, b)) return false;
+  return zeph_steps::zeph_strncmp(a, b, static_cast<std::size_t>(n)) == 0;
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare(std::string& a, std::string& b) {
   if (*a.c_str() != *b.c_str()) return false;
   const std::size_t size = a.size();
-  if (__builtin_expect(size == b.size() && size - 8 <= 56, 1)) {
-    const zeph::Glance glance = size < 16 ? zeph::glance_at_words(a.data(), b.data(), size)
-                                          : zeph::glance_at_vectors(a.data(), b.data(), size);
+  if (__builtin_expect(size == b.size() && size >= 8 && size <= 64, 1)) {
+    const zeph_steps::Glance glance = size < 16
+                                          ? zeph_steps::glance_at_words(a.data(), b.data(), size)
+                                          : zeph_steps::glance_at_vectors(a.data(), b.data(), size);
     if (__builtin_expect((glance.difference == 0) | (glance.zeros == 0), 1)) {
       return glance.difference == 0;
     }
   }
-  if (size <= 64) return zeph::zeph_strcmp(a.c_str(), b.c_str()) == 0;
-  return zeph::exported<bool(std::string&, std::string&)>(Zeph_Compare)(a, b);
+  if (size <= 64) return zeph_steps::zeph_strcmp(a.c_str(), b.c_str()) == 0;
+  return zeph_steps::exported<bool(std::string&, std::string&)>(Zeph_Compare)(a, b);
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare(std::string& a, std::string& b, int n) {
-  if (__builtin_expect(n != 0, 1) && zeph::first_bytes_differ(a.c_str(), b.c_str())) return false;
+  if (__builtin_expect(n != 0, 1) && zeph_steps::first_bytes_differ(a.c_str(), b.c_str()))
+    return false;
   if (n >= 0 && n <= 64) {
-    return zeph::zeph_strncmp(a.c_str(), b.c_str(), static_cast<std::size_t>(n)) == 0;
+    return zeph_steps::zeph_strncmp(a.c_str(), b.c_str(), static_cast<std::size_t>(n)) == 0;
   }
-  return zeph::exported<bool(std::string&, std::string&, int)>(Zeph_Compare)(a, b, n);
+  return zeph_steps::exported<bool(std::string&, std::string&, int)>(Zeph_Compare)(a, b, n);
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare_L(const char* a, const char* b) {
-  return !zeph::first_bytes_never_fold_alike(a, b) && zeph::zeph_strcasecmp(a, b) == 0;
+  return !zeph_steps::first_bytes_never_fold_alike(a, b) && zeph_steps::zeph_strcasecmp(a, b) == 0;
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare_L(const char* a, const char* b, int n) {
-  if (__builtin_expect(n != 0, 1) && zeph::first_bytes_never_fold_alike(a, b)) return false;
-  return zeph::zeph_strncasecmp(a, b, static_cast<std::size_t>(n)) == 0;
+  if (__builtin_expect(n != 0, 1) && zeph_steps::first_bytes_never_fold_alike(a, b)) return false;
+  return zeph_steps::zeph_strncasecmp(a, b, static_cast<std::size_t>(n)) == 0;
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare_L(std::string& a, std::string& b) {
-  if (zeph::first_bytes_never_fold_alike(a.c_str(), b.c_str())) return false;
+  if (zeph_steps::first_bytes_never_fold_alike(a.c_str(), b.c_str())) return false;
   if (__builtin_expect(a.size() < 256, 1)) {
-    return zeph::zeph_strcasecmp(a.c_str(), b.c_str()) == 0;
+    return zeph_steps::zeph_strcasecmp(a.c_str(), b.c_str()) == 0;
   }
-  return zeph::exported<bool(std::string&, std::string&)>(Zeph_Compare_L)(a, b);
+  return zeph_steps::exported<bool(std::string&, std::string&)>(Zeph_Compare_L)(a, b);
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Compare_L(std::string& a, std::string& b, int n) {
-  if (__builtin_expect(n != 0, 1) && zeph::first_bytes_never_fold_alike(a.c_str(), b.c_str())) {
+  if (__builtin_expect(n != 0, 1) &&
+      zeph_steps::first_bytes_never_fold_alike(a.c_str(), b.c_str())) {
     return false;
   }
   if (n >= 0 && n < 256) {
-    return zeph::zeph_strncasecmp(a.c_str(), b.c_str(), static_cast<std::size_t>(n)) == 0;
+    return zeph_steps::zeph_strncasecmp(a.c_str(), b.c_str(), static_cast<std::size_t>(n)) == 0;
   }
-  return zeph::exported<bool(std::string&, std::string&, int)>(Zeph_Compare_L)(a, b, n);
+  return zeph_steps::exported<bool(std::string&, std::string&, int)>(Zeph_Compare_L)(a, b, n);
 }
 
 ZEPH_FIRST_STEPS int Zeph_Find_Position(const char* text, const char* pattern) {
-  if (*pattern != '\0' && pattern[1] == '\0') return zeph::place_of_byte(text, *pattern);
-  return zeph::exported<int(const char*, const char*)>(Zeph_Find_Position)(text, pattern);
+  if (*pattern != '\0' && pattern[1] == '\0') return zeph_steps::place_of_byte(text, *pattern);
+  return zeph_steps::exported<int(const char*, const char*)>(Zeph_Find_Position)(text, pattern);
 }
 
 ZEPH_FIRST_STEPS bool Zeph_Find_SubString(const char* text, const char* pattern) {
@@ -1467,7 +1475,7 @@ ZEPH_FIRST_STEPS bool Zeph_Get_SubString(const std::string& text, int start, int
                                          std::string& out) {
   if (start >= 0 && static_cast<std::size_t>(start) >= text.size()) return false;
   using Get = bool(const std::string&, int, int, std::string&);
-  return zeph::exported<Get>(Zeph_Get_SubString)(text, start, count, out);
+  return zeph_steps::exported<Get>(Zeph_Get_SubString)(text, start, count, out);
 }
 
 // Up to seven blanks go by one look at the last word.
@@ -1476,40 +1484,43 @@ ZEPH_FIRST_STEPS void Zeph_Del_TailSpace(std::string& text) {
   if (size == 0 || text[size - 1] != ' ') return;
   if (size >= 8) {
     const char* const last = text.data() + size - 8;
-    const unsigned long long others = zeph::eight_bytes(last) ^ 0x2020202020202020ULL;
-    if (others != 0) return void(text.erase(size - zeph::zeros_at_back(others)));
+    const unsigned long long others = zeph_steps::eight_bytes(last) ^ 0x2020202020202020ULL;
+    if (others != 0) return void(text.erase(size - zeph_steps::zeros_at_back(others)));
   }
-  zeph::exported<void(std::string&)>(Zeph_Del_TailSpace)(text);
+  zeph_steps::exported<void(std::string&)>(Zeph_Del_TailSpace)(text);
 }
 
 ZEPH_FIRST_STEPS void Zeph_Del_HeadSpace(std::string& text) {
   if (text.empty() || text.front() != ' ') return;
-  zeph::exported<void(std::string&)>(Zeph_Del_HeadSpace)(text);
+  zeph_steps::exported<void(std::string&)>(Zeph_Del_HeadSpace)(text);
 }
 
 ZEPH_FIRST_STEPS void Zeph_Trimed(std::string& text) {
   if (text.empty() || (text.front() != ' ' && text.back() != ' ')) return;
-  zeph::exported<void(std::string&)>(Zeph_Trimed)(text);
+  zeph_steps::exported<void(std::string&)>(Zeph_Trimed)(text);
 }
 
 ZEPH_FIRST_STEPS void Zeph_String_Check(std::string& text) {
   if (text.empty() || (text.front() != '"' && text.back() != '"')) return;
-  zeph::exported<void(std::string&)>(Zeph_String_Check)(text);
+  zeph_steps::exported<void(std::string&)>(Zeph_String_Check)(text);
 }
 
 ZEPH_FIRST_STEPS void Zeph_Remove_QuoteMark(std::string& text) {
-  if (text.empty() || !(zeph::is_quote(text.front()) || zeph::is_quote(text.back()))) return;
-  zeph::exported<void(std::string&)>(Zeph_Remove_QuoteMark)(text);
+  if (text.empty() || !(zeph_steps::is_quote(text.front()) || zeph_steps::is_quote(text.back())))
+    return;
+  zeph_steps::exported<void(std::string&)>(Zeph_Remove_QuoteMark)(text);
 }
 
 ZEPH_FIRST_STEPS void Zeph_Remove_Bracket(std::string& text) {
-  if (text.empty() || !(zeph::is_opening(text.front()) || zeph::is_closing(text.back()))) return;
-  zeph::exported<void(std::string&)>(Zeph_Remove_Bracket)(text);
+  if (text.empty() ||
+      !(zeph_steps::is_opening(text.front()) || zeph_steps::is_closing(text.back())))
+    return;
+  zeph_steps::exported<void(std::string&)>(Zeph_Remove_Bracket)(text);
 }
 
 ZEPH_FIRST_STEPS void Zeph_Remove_HeadTail(std::string& text, char mark) {
   if (text.empty() || (text.front() != mark && text.back() != mark)) return;
-  zeph::exported<void(std::string&, char)>(Zeph_Remove_HeadTail)(text, mark);
+  zeph_steps::exported<void(std::string&, char)>(Zeph_Remove_HeadTail)(text, mark);
 }
 
 }  // namespace Orbane

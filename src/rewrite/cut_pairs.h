@@ -80,20 +80,22 @@ inline const char* behind_pairs(const char* from, char first, char second) {
 }
 
 // The first pair stands at text[at]. From there on the bytes go to the top of what is left of the
-// text, and the second of a pair takes its first away from there.
+// text, and the second of a pair takes its first away from there, as long as the text is short or
+// there is a pair every few bytes.
 [[gnu::noinline]] inline void cut_close_pairs(char* text, std::size_t at, const char* pair) {
-  constexpr std::size_t near = 64, step = 8;
+  constexpr std::ptrdiff_t near = 64, quiet = 24;
+  constexpr std::size_t step = 8;
   const char first = pair[0], second = pair[1];
   char* top = text + at + 1;
+  const char* const begin = top;
   for (const char* from = top;;) {
     --top;
     from = behind_pairs(from + 1, first, second);
     for (; *from == second && top != text && top[-1] == first; ++from) --top;
+    const char* const last = from;
     std::size_t n;
     do {
-      if (static_cast<std::size_t>(from - text) - at >= near) {
-        return cut_far_pairs(text, top, from, pair);
-      }
+      if (from - begin >= near && from - last >= quiet) return cut_far_pairs(text, top, from, pair);
       n = 0;
 #pragma GCC unroll 8
       for (; n < step; ++n) {

@@ -63,8 +63,12 @@ std::size_t rewrite_onward(Occurrences& occurrences, const GapText& text, View r
 // Whether three equal bytes stand in a text side by side: of the pairs in there each one takes
 // another along.
 bool has_triple(View text, char byte) {
-  const char triple[] = {byte, byte, byte};
-  return find_needle(text, View(triple, sizeof triple)) != View::npos;
+  unsigned char any = 0;  // without a jump, so that the loop is wide
+  for (std::size_t i = 2; i < text.size(); ++i) {
+    const auto other = (text[i - 2] ^ byte) | (text[i - 1] ^ byte) | (text[i] ^ byte);
+    any = static_cast<unsigned char>(any | (static_cast<unsigned char>(other) == 0));
+  }
+  return any != 0;
 }
 
 // How many occurrences a text has. Those of one or two bytes are mostly counted without a look at
@@ -322,9 +326,9 @@ constexpr std::size_t few_occurrences = 3;
 
 // The pattern is not empty. The ways stand apart, so that none saves registers for another.
 void replace_pattern(char* text, const char* pattern, const char* replacement) {
-  const char* const first = find_near(text, pattern);
-  if (!first) return replace_behind(text, pattern, replacement);
-  if (*first != '\0') replace_from(text, pattern, replacement, {first, true});
+  const Found first = find_near(text, pattern);
+  if (!first.at) return replace_behind(text, pattern, replacement);
+  if (*first.at != '\0') replace_from(text, pattern, replacement, first);
 }
 
 void replace_in_bytes(char* text, const char* pattern, const char* replacement) {

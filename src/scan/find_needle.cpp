@@ -182,6 +182,11 @@ std::size_t find_short_needle(View haystack, View needle) {
   return find_filtered(haystack, needle, at + 1, ExactFold());
 }
 
+[[gnu::noinline]] std::size_t find_last_two_way(View haystack, View needle) {
+  const std::size_t found = find_two_way(Backwards{haystack}, Backwards{needle}, ExactFold());
+  return found == View::npos ? found : haystack.size() - needle.size() - found;
+}
+
 // The places in front of `left`. Apart, so that a search which the first place ends saves few
 // registers.
 [[gnu::noinline]] std::size_t find_last_filtered(View haystack, View needle, std::size_t left) {
@@ -195,9 +200,7 @@ std::size_t find_short_needle(View haystack, View needle) {
         common_front(haystack.data() + at, needle.data(), needle.size(), ExactFold());
     if (same == needle.size()) return at;
     if (!budget.spent_by(same, last - at)) continue;
-    const View rest = haystack.substr(0, at + needle.size() - 1);
-    const std::size_t found = find_two_way(Backwards{rest}, Backwards{needle}, ExactFold());
-    return found == View::npos ? found : rest.size() - needle.size() - found;
+    return find_last_two_way(haystack.substr(0, at + needle.size() - 1), needle);
   }
 }
 
