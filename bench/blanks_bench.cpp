@@ -120,12 +120,14 @@ void add_rows(const Ends& ends, const std::string& text, const std::string& inpu
   const std::string name = std::string("copy, ") + ends.name;
   const ByteCopy bytes = byte_copy(text);
   row("normalise", name, input, text.size())
+      .reason("the loop takes the same steps; Zeph clears what stood behind the text, too")
       .outputs(changed(bytes))
       .zeph(on_a_copy(bytes, ends.of_bytes))
       .peer("loops and memmove", on_a_copy(bytes, ends.by_loop));
   StringCopy& copy = string_copy(text);
   auto& strings = row("normalise", name + " String", input, text.size());
-  strings.outputs(changed(copy))
+  strings.reason("few blanks are told in the caller by either; for more Zeph is called")
+      .outputs(changed(copy))
       .zeph(on_a_copy(copy, ends.of_string))
       .peer("find_..._not_of, erase", on_a_copy(copy, ends.by_find));
 #if ZEPH_BENCH_HAS_ABSEIL

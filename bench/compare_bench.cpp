@@ -47,7 +47,7 @@ std::string upper(std::string text) {
   return text;
 }
 
-const char* const own_way = "a call into the shared object; what it does there takes a nanosecond";
+const char* const own_way = "a zero byte ends a String's text and is looked for, too";
 const char* const same_service =
     "the same service does it; a call into the shared object comes first, and one to the service";
 

@@ -207,7 +207,10 @@ Row& add_string_row(Cut& c, const std::string& input) {
                       std::string(c.separator == ' ' ? "Zeph_Seperate" : "Zeph_Seperate_Char") +
                           " String " + std::to_string(count),
                       input, c.text.size());
-  strings.reason("a String ends at its first zero byte, which is looked for; find knows the size");
+  const bool long_text = c.text.size() >= std::size_t{1} << 20;
+  strings.reason(
+      long_text ? "the promised work buffers, zeroed, push so long a text out of the cache"
+                : "a String ends at its first zero byte, which is looked for; find knows the size");
   return strings.outputs([&c] { return c.take_strings(count); }).zeph([&c] {
     return with_outputs<count>(c.strings, [&](auto&... o) {
       if (c.separator == ' ') {

@@ -103,7 +103,7 @@ void add_index_row(const Function& f, std::size_t items, std::string sought,
   const char* const value = places.text(sought);
   auto& added = row("indexed", f.name, std::to_string(items) + " items, " + place, list.size());
   added.zeph([index = f.index, text, value] { return index(text, value); })
-      .reason("it searches first, in vain where the value turns up inside of other items")
+      .reason("the promised work buffers have the list's length, which is measured first of all")
       .requests([size = list.size() + 1] { return heap_requests(2, size); });
   added.peer("strchrnul walk", [separator = f.separator, fold = f.fold, text, value] {
     return fold ? index_by_walk<true>(text, separator, value)

@@ -105,7 +105,7 @@ void add_byte_replace_row(const Case& c) {
   const char* const from = c.from.c_str();
   const char* const to = c.to.c_str();
   auto& added = row("rewrite", "Zeph_Replace byte text", c.input, c.text.size());
-  added
+  added.reason("in place: a fresh copy is part of it, and what stands behind a change moves")
       .zeph([copy, from, to] {
         char* const text = copy.fresh();
         Orbane::Zeph_Replace(text, from, to);
@@ -148,7 +148,7 @@ void add_string_replace_row(const Case& c) {
 void add_remove_rows(const Case& c, bool searches) {
   const ByteCopy bytes = byte_copy(c.text);
   const char* const pattern = c.from.c_str();
-  const char* const reason = "the stack is written for patterns of two bytes";
+  const char* const reason = "the peers are written for a pair, or only search";
   auto& in_bytes = row("rewrite", "Zeph_Remove byte text", c.input, c.text.size());
   in_bytes.reason(reason)
       .outputs(changed(bytes))

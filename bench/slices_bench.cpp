@@ -112,6 +112,7 @@ void add_byte_rows(Marked& m, const std::string& input) {
       .zeph([&m, third] { return Orbane::Zeph_Get_SubString(m.from, third, third, m.bytes); })
       .peer("strlen, memcpy", [&m, count] { return slice(m.from, count, count, m.bytes); });
   row("slices", "Zeph_Ext_Str_From_Str", input, m.text.size())
+      .reason("memcpy does it for either; Zeph calls it from the shared object")
       .outputs(read)
       .zeph([&m, third] { return Orbane::Zeph_Ext_Str_From_Str(m.from, third, third, m.bytes), 0; })
       .peer("memcpy", [&m, count] { return slice_unasked(m.from, count, count, m.bytes); });
@@ -137,6 +138,7 @@ void add_empty_slice_rows(Marked& m, const std::string& input) {
   const int third = m.size / 3;
   const auto count = static_cast<std::size_t>(third), end = m.text.size();
   row("slices", "Zeph_Get_SubString", input, m.text.size())
+      .reason("strlen decides for either; Zeph calls it from the shared object")
       .zeph([&m, third] { return Orbane::Zeph_Get_SubString(m.from, m.size, third, m.bytes); })
       .peer("strlen, memcpy", [&m, count, end] { return slice(m.from, end, count, m.bytes); });
   row("slices", "Zeph_Get_SubString String", input, m.text.size())
